@@ -51,10 +51,10 @@ void print_line(std::ostream& stream, std::initializer_list<PrintItem> items) {
   expect_written(stream);
 }
 
-void expect_written(std::ostream& stream) {
+void expect_written(std::ostream& stream, const std::string& name) {
   if (stream.good()) return;
   told_mark(stream) = 1;
-  throw Fault(errno == ENOSPC ? 61 : 57);
+  throw Fault(errno == ENOSPC ? 61 : 57, name);
 }
 
 bool failure_was_told(std::ostream& stream) {

@@ -43,9 +43,10 @@ class PrintItem {
 /// Columns count bytes. A stream that could not take the line is a Fault as `expect_written` tells it.
 void print_line(std::ostream& stream, std::initializer_list<PrintItem> items);
 
-/// Fault 61 when a write to `stream` failed for a full disk, 57 when it failed for anything else. Whoever
-/// writes to a numbered file by other means than `print_line` calls this behind the last write.
-void expect_written(std::ostream& stream);
+/// Fault 61 when a write to `stream` failed for a full disk, 57 when it failed for anything else; `name` is
+/// the file's, for its words. Whoever writes to a numbered file by other means than `print_line` calls this
+/// behind the last write.
+void expect_written(std::ostream& stream, const std::string& name = {});
 
 /// Whether `expect_written` has told of this stream's failure: closing it need not tell again.
 bool failure_was_told(std::ostream& stream);

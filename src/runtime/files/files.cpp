@@ -1,0 +1,109 @@
+#include "runtime/files/files.h"
+
+#include <algorithm>
+#include <system_error>
+#include <vector>
+
+#include "runtime/fault.h"
+#include "runtime/files/copy_bytes.h"
+#include "runtime/files/path_names.h"
+#include "runtime/files/path_state.h"
+#include "runtime/files/wildcards.h"
+
+namespace runtime::files {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// In byte order, because the order in which a directory lists its entries differs from disk to disk.
+std::vector<fs::path> found_by_pattern(const fs::path& directory, const std::string& pattern) {
+  std::vector<fs::path> found;
+  std::error_code error;
+  fs::directory_iterator entry(directory.empty() ? fs::path(".") : directory, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const fs::path name = entry->path().filename();
+    if (matches(pattern, text_of(name))) found.push_back(directory / name);
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::vector<fs::path> found_by(std::string_view name) {
+  const fs::path written = native(name);
+  const std::string last = text_of(written.filename());
+  if (has_wildcard(last)) return found_by_pattern(resolve(text_of(written.parent_path())), last);
+  const fs::path found = resolve(name);
+  if (name.empty() || !is_there(found)) return {};
+  return {found};
+}
+
+}  // namespace
+
+std::string Files::dir(std::string_view name, int attributes) const {
+  const bool wants_directories = (attributes & directory_attribute) != 0;
+  for (const fs::path& found : found_by(name)) {
+    if (is_a_directory(found) && !wants_directories) continue;
+    return found.has_filename() ? text_of(found.filename()) : ".";
+  }
+  return {};
+}
+
+void Files::kill(std::string_view pattern) const {
+  std::vector<fs::path> files = found_by(pattern);
+  std::erase_if(files, is_a_directory);
+  if (files.empty()) throw missing_fault(resolve(pattern), pattern);
+  for (const fs::path& file : files) {
+    if (is_held(file)) throw Fault(55, text_of(file));
+    std::error_code error;
+    if (!fs::remove(file, error)) throw Fault(75, text_of(file));
+  }
+}
+
+void Files::copy(std::string_view from, std::string_view to) const {
+  const fs::path source = resolve(from);
+  const fs::path older = resolve(to);
+  const fs::path target = exactly_named(to);
+  if (!is_there(source)) throw missing_fault(source, from);
+  if (!has_directory(target)) throw Fault(76, std::string(to));
+  if (is_same_file(source, older) || is_held(source)) throw Fault(70, std::string(from));
+  if (is_held(older)) throw Fault(70, std::string(to));
+  if (!is_plain_file(source)) throw Fault(75, std::string(from));
+  if (is_there(older) && !is_plain_file(older)) throw Fault(75, std::string(to));
+  copy_bytes(source, target);
+  remove_namesake(older, target);
+}
+
+void Files::rename(std::string_view from, std::string_view to) const {
+  const fs::path source = resolve(from);
+  const fs::path target = exactly_named(to);
+  if (!is_there(source)) throw missing_fault(source, from);
+  if (!has_directory(target)) throw Fault(76, std::string(to));
+  if (is_held(source)) throw Fault(55, std::string(from));
+  if (is_there(resolve(to))) throw Fault(58, std::string(to));
+  std::error_code error;
+  fs::rename(source, target, error);
+  if (error) throw Fault(75, std::string(from));
+}
+
+void Files::change_directory(std::string_view name) const {
+  std::error_code error;
+  fs::current_path(resolve(name), error);
+  if (error) throw Fault(76, std::string(name));
+}
+
+std::string Files::current_directory() const {
+  std::error_code error;
+  const fs::path directory = fs::current_path(error);
+  if (error) throw Fault(76);
+  return text_of(directory);
+}
+
+bool Files::is_held(const fs::path& path) const {
+  const bool is_numbered = std::any_of(open_files_.begin(), open_files_.end(), [&path](const auto& entry) {
+    return is_same_file(entry.second.path, path);
+  });
+  return is_numbered || (held_elsewhere && held_elsewhere(path));
+}
+
+}  // namespace runtime::files
