@@ -1,0 +1,51 @@
+// Strict reading of a model's text files, line by line.
+#pragma once
+
+#include <cstddef>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace model {
+
+/// Reads a text file whose every line ends in CR LF. Whatever is not as it must be is a Refusal that names
+/// the file and the line. Memory does not grow with the file: a line may have 32,000 characters at most.
+class LineReader {
+ public:
+  /// Refuses a file that is missing or cannot be read.
+  explicit LineReader(std::string name);
+
+  /// The next line without its CR LF; valid until the next call. Refuses when there is none.
+  std::string_view next();
+
+  /// Refuses when anything follows the last line that was read.
+  void expect_end();
+
+  /// Refuses the line that was read last.
+  [[noreturn]] void refuse(const std::string& reason) const;
+
+ private:
+  /// What is read from the file and not yet handed out.
+  std::string_view waiting() const;
+  /// Adds to what is waiting; false at the end of the file.
+  bool fill();
+
+  std::string name_;
+  std::ifstream file_;
+  std::vector<char> buffer_;
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  std::size_t line_ = 0;
+};
+
+/// `text` between apostrophes for a refusal, cut where it is too long to read.
+std::string quoted(std::string_view text);
+
+/// The next line as exactly `count` numbers between blanks, each 0 or greater.
+std::vector<double> read_numbers(LineReader& file, std::size_t count);
+
+/// The next line as one whole number from `lowest` to `highest`.
+int read_whole(LineReader& file, int lowest, int highest);
+
+}  // namespace model

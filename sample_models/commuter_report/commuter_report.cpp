@@ -1,0 +1,176 @@
+#include "commuter_report/commuter_report.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "common/numbers.h"
+#include "common/report.h"
+#include "commuter_files/occupations.h"
+
+namespace model {
+
+namespace {
+
+/// The same commuters in both cases.
+struct Comparison {
+  Commuting base;
+  Commuting improvement;
+
+  Comparison& operator+=(const Comparison& other) {
+    base += other.base;
+    improvement += other.improvement;
+    return *this;
+  }
+  double benefit() const { return base.dollars - improvement.dollars; }
+};
+
+Comparison compare_zone(const ReportedOccupation& occupation, std::size_t zone) {
+  return {occupation.base.zones[zone], occupation.improvement.zones[zone]};
+}
+
+Comparison compare_occupation(const ReportedOccupation& occupation) {
+  Comparison sum;
+  for (std::size_t zone = 0; zone < occupation.base.zones.size(); ++zone)
+    sum += compare_zone(occupation, zone);
+  return sum;
+}
+
+Comparison compare_all(const Study& study) {
+  Comparison sum;
+  for (const auto& occupation : study.occupations) sum += compare_occupation(occupation);
+  return sum;
+}
+
+std::string mean(double total, double commuters) {
+  return commuters > 0 ? grouped(total / commuters, 1) : "-";
+}
+
+const std::vector<Column> comparison_columns{
+    {"", "Commuters"},
+    {"Miles", "base"},
+    {"Miles", "improved"},
+    {"Minutes", "base"},
+    {"Minutes", "improved"},
+    {"Dollars a day", "base"},
+    {"Dollars a day", "improved"},
+    {"Benefit in", "dollars a day"},
+};
+
+std::vector<std::string> comparison_cells(std::vector<std::string> leading, const Comparison& both) {
+  const auto& [base, improvement] = both;
+  for (auto& cell : {grouped(base.commuters, 0), mean(base.miles, base.commuters),
+                     mean(improvement.miles, improvement.commuters), mean(base.minutes, base.commuters),
+                     mean(improvement.minutes, improvement.commuters), grouped(base.dollars, 2),
+                     grouped(improvement.dollars, 2), grouped(both.benefit(), 2)}) {
+    leading.push_back(cell);
+  }
+  return leading;
+}
+
+std::vector<Column> behind(std::vector<Column> leading) {
+  leading.insert(leading.end(), comparison_columns.begin(), comparison_columns.end());
+  return leading;
+}
+
+std::string road_words(const std::optional<Roads>& roads) {
+  if (!roads) return "no data";
+  return grouped(roads->speed, 1) + " miles per hour, " + grouped(100 * roads->highway_share, 1) +
+         " % on highways: " + grouped(unexpected_minutes_per_mile(*roads), 2) +
+         " unexpected minutes per mile";
+}
+
+std::string reliability_lines(const ReportedOccupation& occupation) {
+  const auto mode = occupation.base.mode;
+  if (mode == ReliabilityMode::None) return labelled("Reliability", "not part of this analysis");
+  if (!occupation.base.roads && !occupation.improvement.roads) {
+    return labelled("Reliability", "asked for from a file, but no reliability data were supplied;") +
+           labelled("", "the figures leave it out");
+  }
+  const bool from_database = mode == ReliabilityMode::Database;
+  return labelled("Reliability", from_database ? "sketch-planning data" : "data of the analyst's file") +
+         labelled("  base case", road_words(occupation.base.roads)) +
+         labelled("  improvement case", road_words(occupation.improvement.roads));
+}
+
+std::string study_section(const Study& study) {
+  constexpr std::array<std::string_view, 4> modes{"  drive alone", "  public transport", "  two in one car",
+                                                  "  walk or cycle"};
+  auto text = underlined("The study", '-') + labelled("Zones", grouped(study.zones, 0)) +
+              labelled("Districts", study.districts > 0 ? grouped(study.districts, 0) : "none") +
+              labelled("Cost of a car", plain(study.travel.dollars_per_car_mile) + " dollars per mile") +
+              labelled("Fare of public transport", plain(study.travel.fare) + " dollars per day") +
+              labelled("Mode shares", "");
+  for (std::size_t i = 0; i < modes.size(); ++i) {
+    text += labelled(modes[i], grouped(100 * study.travel.mode_shares[i], 2) + " %");
+  }
+  return text + reliability_lines(study.occupations.front());
+}
+
+std::string occupation_parameters_section(const Study& study) {
+  Table table({{"", "Occupation", Column::Align::Left},
+               {"Wage per day", "dollars"},
+               {"Elasticity of", "substitution"}});
+  for (const auto& [code, parameters, base, improvement] : study.occupations) {
+    table.add_row({std::string(occupation_name(code)), grouped(parameters.wage, 2), plain(parameters.sigma)});
+  }
+  return underlined("Wages and elasticities", '-') + table.text();
+}
+
+std::string occupation_section(const Study& study) {
+  Table table(behind({{"", "Occupation", Column::Align::Left}}));
+  for (const auto& occupation : study.occupations) {
+    table.add_row(
+        comparison_cells({std::string(occupation_name(occupation.code))}, compare_occupation(occupation)));
+  }
+  table.add_rule();
+  table.add_row(comparison_cells({"All occupations"}, compare_all(study)));
+  return underlined("By occupation", '-') + table.text();
+}
+
+std::string district_section(const Study& study) {
+  std::vector<Comparison> sums(static_cast<std::size_t>(study.districts));
+  for (std::size_t zone = 0; zone < study.district_of.size(); ++zone) {
+    auto& sum = sums[static_cast<std::size_t>(study.district_of[zone] - 1)];
+    for (const auto& occupation : study.occupations) sum += compare_zone(occupation, zone);
+  }
+  Table table(behind({{"", "District", Column::Align::Left}, {"", "Zones"}}));
+  for (std::size_t i = 0; i < sums.size(); ++i) {
+    const auto number = static_cast<int>(i) + 1;
+    const auto zones = std::ranges::count(study.district_of, number);
+    table.add_row(comparison_cells({std::to_string(number), std::to_string(zones)}, sums[i]));
+  }
+  table.add_rule();
+  table.add_row(comparison_cells({"All", std::to_string(study.zones)}, compare_all(study)));
+  return underlined("By district of residence", '-') + table.text();
+}
+
+std::string result_section(const Study& study) {
+  const auto all = compare_all(study);
+  const auto benefit = grouped(all.benefit(), 2);
+  auto text = underlined("Result", '-');
+  if (benefit == "0.00") return text + "The improvement makes no difference to the cost of commuting.\n";
+  const bool saves = all.benefit() > 0;
+  text += "The improvement " + std::string(saves ? "saves" : "costs") + " the commuters of the study " +
+          grouped(std::abs(all.benefit()), 2) + " dollars per working day";
+  const double each = std::abs(all.benefit()) / all.base.commuters;
+  return text + ", " + grouped(each, 2) + " for each of them.\n";
+}
+
+}  // namespace
+
+std::string report_text(const Study& study) {
+  auto text =
+      underlined("What commuting costs, and what the improvement is worth", '=') +
+      "\n"
+      "Miles and minutes are means over the commuters, one way. Costs are those of one working day, both\n"
+      "ways, in dollars: time, cars, fares and the loss of being tied to near workplaces. The benefit is\n"
+      "the base case's cost less the improvement case's.\n\n" +
+      study_section(study) + '\n' + occupation_parameters_section(study) + '\n' + occupation_section(study) +
+      '\n';
+  if (study.districts > 0) text += district_section(study) + '\n';
+  return text + result_section(study);
+}
+
+}  // namespace model
