@@ -11,6 +11,7 @@ namespace {
 using NumberAndWords = std::pair<int, const char*>;
 
 constexpr std::array words{
+    NumberAndWords{5, "Invalid procedure call or argument"},
     NumberAndWords{6, "Overflow"},
     NumberAndWords{7, "Out of memory"},
     NumberAndWords{9, "Subscript out of range"},
@@ -43,11 +44,18 @@ constexpr std::array words{
     NumberAndWords{3061, "Too few parameters: '|' is not known"},
     NumberAndWords{3075, "Syntax error in expression: |"},
     NumberAndWords{3078, "The table '|' was not found"},
+    NumberAndWords{3079, "'|' may be a field of more than one table"},
+    NumberAndWords{3085, "Undefined function '|' in expression"},
+    NumberAndWords{3129, "Invalid SQL statement"},
+    NumberAndWords{3134, "Syntax error in INSERT INTO statement: |"},
     NumberAndWords{3144, "Syntax error in UPDATE statement: |"},
     NumberAndWords{3260, "The project database is in use by another program: |"},
     NumberAndWords{3265, "There is no field '|' in this table"},
+    NumberAndWords{3290, "Syntax error in CREATE TABLE statement: |"},
+    NumberAndWords{3295, "Syntax error in DROP TABLE statement: |"},
     NumberAndWords{3343, "This file is not a project database: |"},
     NumberAndWords{3421, "The value has the wrong type for its field: |"},
+    NumberAndWords{3464, "Data type mismatch in criteria expression"},
     NumberAndWords{32755, "Cancel was selected"},
 };
 

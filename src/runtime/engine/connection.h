@@ -1,0 +1,104 @@
+// The connection to the open file and its statements; for this room only.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "runtime/value.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace runtime::engine {
+
+class Transactions;
+
+/// What the functions and the authorizer that the connection registers share with it.
+struct Callbacks {
+  int fault = 0;      ///< The number with which a function stopped a statement; 0 for none.
+  std::string fence;  ///< The only table that may be touched; empty for all.
+};
+
+/// The open file. Lives as long as a handle, a recordset or a write not yet durable needs it.
+class Connection : public std::enable_shared_from_this<Connection> {
+ public:
+  /// Opens `file`, which must exist. Faults: 3343, 3049, 3260, 75.
+  Connection(std::filesystem::path file, std::shared_ptr<Transactions> transactions,
+             std::chrono::milliseconds lock_wait);
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  const std::filesystem::path& file() const { return file_; }
+
+  /// Must go before every statement that writes.
+  void before_write();
+  bool in_transaction() const;
+
+  /// Runs a statement without parameters, in the store's own language.
+  void run(std::string_view sql);
+
+  std::int64_t last_key() const;
+  std::int64_t rows_changed() const;
+  bool has_table(const std::string& name);
+
+  /// Drops the prepared statements that are kept for their next use.
+  void forget_statements();
+
+ private:
+  friend class Statement;
+  friend class Fence;
+
+  void configure(std::chrono::milliseconds lock_wait);
+  void check(int code);
+  sqlite3_stmt* take(std::string_view sql);
+  void give_back(std::string sql, sqlite3_stmt* statement);
+
+  std::filesystem::path file_;
+  std::shared_ptr<Transactions> transactions_;
+  sqlite3* handle_ = nullptr;
+  Callbacks callbacks_;
+  std::unordered_map<std::string, sqlite3_stmt*> idle_;
+};
+
+/// A prepared statement, reset and given back at the end of its scope, so that none is ever under way.
+class Statement {
+ public:
+  Statement(Connection& connection, std::string_view sql);
+  ~Statement();
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+
+  /// Parameters count from 1.
+  Statement& bind(int parameter, const Value& value);
+  /// True: there is a row. False: the statement is done.
+  bool step();
+  /// Columns count from 0.
+  Value value(int column) const;
+  std::int64_t whole(int column) const;
+  std::string text(int column) const;
+
+ private:
+  Connection& connection_;
+  std::string sql_;
+  sqlite3_stmt* statement_;
+};
+
+/// While it stands, statements may touch one table only.
+class Fence {
+ public:
+  Fence(Connection& connection, std::string_view table);
+  ~Fence();
+  Fence(const Fence&) = delete;
+  Fence& operator=(const Fence&) = delete;
+
+ private:
+  Connection& connection_;
+};
+
+}  // namespace runtime::engine

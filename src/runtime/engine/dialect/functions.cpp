@@ -1,0 +1,245 @@
+#include "runtime/engine/dialect/functions.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <exception>
+#include <limits>
+#include <vector>
+
+#include "runtime/engine/dialect/arithmetic.h"
+#include "runtime/engine/dialect/like.h"
+#include "runtime/engine/dialect/number_text.h"
+#include "runtime/fault.h"
+
+namespace runtime::engine::dialect {
+
+namespace {
+
+using Arguments = std::vector<Value>;
+
+Value value_of(sqlite3_value* argument) {
+  switch (sqlite3_value_type(argument)) {
+    case SQLITE_NULL:
+      return {};
+    case SQLITE_INTEGER:
+      return std::int64_t{sqlite3_value_int64(argument)};
+    case SQLITE_FLOAT:
+      return sqlite3_value_double(argument);
+    default:
+      break;
+  }
+  const auto* const bytes = reinterpret_cast<const char*>(sqlite3_value_text(argument));
+  if (bytes == nullptr) return std::string();
+  return std::string(bytes, static_cast<std::size_t>(sqlite3_value_bytes(argument)));
+}
+
+void give(sqlite3_context* context, const Value& value) {
+  if (const auto* const whole = std::get_if<std::int64_t>(&value))
+    return sqlite3_result_int64(context, *whole);
+  if (const auto* const number = std::get_if<double>(&value)) return sqlite3_result_double(context, *number);
+  if (const auto* const single = std::get_if<float>(&value)) return sqlite3_result_double(context, *single);
+  if (const auto* const text = std::get_if<std::string>(&value))
+    return sqlite3_result_text64(context, text->data(), text->size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+  sqlite3_result_null(context);
+}
+
+// No exception may pass through the store: a fault's number goes round it.
+template <Value (*function)(const Arguments&)>
+void call(sqlite3_context* context, int count, sqlite3_value** values) {
+  try {
+    Arguments arguments;
+    arguments.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) arguments.push_back(value_of(values[i]));
+    give(context, function(arguments));
+  } catch (const Fault& fault) {
+    *static_cast<int*>(sqlite3_user_data(context)) = fault.number;
+    sqlite3_result_error(context, fault.what(), -1);
+  } catch (const std::exception&) {
+    sqlite3_result_error_nomem(context);
+  }
+}
+
+// A function of a Null is Null.
+template <Value (*function)(const Arguments&)>
+Value unless_null(const Arguments& arguments) {
+  if (std::any_of(arguments.begin(), arguments.end(), is_null)) return {};
+  return function(arguments);
+}
+
+Value whole_or_number(double number, const Value& from) {
+  if (std::holds_alternative<std::int64_t>(from)) return static_cast<std::int64_t>(number);
+  return number;
+}
+
+Value calc(const Arguments& arguments) {
+  const auto& operations = std::get<std::string>(arguments[0]);
+  Value result = arguments[1];
+  for (std::size_t i = 0; i < operations.size(); ++i)
+    result = calculate(operations[i], result, arguments[i + 2]);
+  return result;
+}
+
+Value negate(const Arguments& arguments) {
+  return negated(arguments[0]);
+}
+
+Value like(const Arguments& arguments) {
+  return std::int64_t{is_like(as_text(arguments[0]), as_text(arguments[1])) ? 1 : 0};
+}
+
+Value absolute(const Arguments& arguments) {
+  return whole_or_number(std::fabs(as_number(arguments[0])), arguments[0]);
+}
+
+Value round_down(const Arguments& arguments) {
+  return whole_or_number(std::floor(as_number(arguments[0])), arguments[0]);
+}
+
+Value cut(const Arguments& arguments) {
+  return whole_or_number(std::trunc(as_number(arguments[0])), arguments[0]);
+}
+
+Value sign(const Arguments& arguments) {
+  const double number = as_number(arguments[0]);
+  return std::int64_t{(number > 0) - (number < 0)};
+}
+
+Value square_root(const Arguments& arguments) {
+  return finite(std::sqrt(as_number(arguments[0])));
+}
+
+Value rounded(const Arguments& arguments) {
+  const auto places = arguments.size() == 2 ? as_whole(arguments[1], 0, 22) : 0;
+  const double scale = std::pow(10.0, static_cast<double>(places));
+  const double scaled = as_number(arguments[0]) * scale;
+  // What is beyond the digits of a fraction has nothing to round.
+  if (!std::isfinite(scaled)) return arguments[0];
+  return whole_or_number(std::nearbyint(scaled) / scale, arguments[0]);
+}
+
+Value to_double(const Arguments& arguments) {
+  return as_number(arguments[0]);
+}
+
+Value to_single(const Arguments& arguments) {
+  return finite(static_cast<double>(static_cast<float>(as_number(arguments[0]))));
+}
+
+template <typename Whole>
+Value to_whole(const Arguments& arguments) {
+  return as_whole(arguments[0], std::numeric_limits<Whole>::min(), std::numeric_limits<Whole>::max());
+}
+
+Value to_text(const Arguments& arguments) {
+  if (is_null(arguments[0])) throw Fault(94);
+  return as_text(arguments[0]);
+}
+
+// A blank stands where the sign of a negative number would, and no 0 before a point.
+Value signed_text(const Arguments& arguments) {
+  auto text = joined_form(as_number(arguments[0]));
+  if (text.compare(0, 2, "0.") == 0) text.erase(0, 1);
+  if (text.compare(0, 3, "-0.") == 0) text.erase(1, 1);
+  return text.front() == '-' ? text : " " + text;
+}
+
+Value number_at_start(const Arguments& arguments) {
+  return leading_number(as_text(arguments[0]));
+}
+
+// Texts are counted in characters, not in bytes.
+bool begins_character(char c) {
+  return (static_cast<unsigned char>(c) & 0xc0) != 0x80;
+}
+
+std::size_t length(const std::string& text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), begins_character));
+}
+
+std::size_t place_of(const std::string& text, std::size_t character) {
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (begins_character(text[i]) && character-- == 0) return i;
+  return text.size();
+}
+
+std::string part(const std::string& text, std::size_t first, std::size_t count) {
+  const auto begin = place_of(text, first);
+  const auto rest = text.substr(begin);
+  return rest.substr(0, place_of(rest, count));
+}
+
+std::size_t count_in(const Value& value) {
+  const auto count =
+      as_whole(value, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+  if (count < 0) throw Fault(5);
+  return static_cast<std::size_t>(count);
+}
+
+Value text_length(const Arguments& arguments) {
+  return static_cast<std::int64_t>(length(as_text(arguments[0])));
+}
+
+Value left(const Arguments& arguments) {
+  return part(as_text(arguments[0]), 0, count_in(arguments[1]));
+}
+
+Value right(const Arguments& arguments) {
+  const auto text = as_text(arguments[0]);
+  const auto all = length(text);
+  const auto count = std::min(all, count_in(arguments[1]));
+  return part(text, all - count, count);
+}
+
+Value middle(const Arguments& arguments) {
+  const auto first = count_in(arguments[1]);
+  if (first == 0) throw Fault(5);
+  const auto text = as_text(arguments[0]);
+  return part(text, first - 1, arguments.size() == 3 ? count_in(arguments[2]) : text.size());
+}
+
+struct Registered {
+  const char* name;
+  int arguments;  // -1: any number
+  void (*function)(sqlite3_context*, int, sqlite3_value**);
+};
+
+constexpr std::array functions{
+    Registered{"q_abs", 1, call<unless_null<absolute>>},
+    Registered{"q_calc", -1, call<calc>},
+    Registered{"q_cdbl", 1, call<to_double>},
+    Registered{"q_cint", 1, call<to_whole<std::int16_t>>},
+    Registered{"q_clng", 1, call<to_whole<std::int32_t>>},
+    Registered{"q_csng", 1, call<to_single>},
+    Registered{"q_cstr", 1, call<to_text>},
+    Registered{"q_fix", 1, call<unless_null<cut>>},
+    Registered{"q_int", 1, call<unless_null<round_down>>},
+    Registered{"q_left", 2, call<unless_null<left>>},
+    Registered{"q_len", 1, call<unless_null<text_length>>},
+    Registered{"q_like", 2, call<unless_null<like>>},
+    Registered{"q_mid", -1, call<unless_null<middle>>},
+    Registered{"q_negate", 1, call<negate>},
+    Registered{"q_right", 2, call<unless_null<right>>},
+    Registered{"q_round", -1, call<unless_null<rounded>>},
+    Registered{"q_sgn", 1, call<unless_null<sign>>},
+    Registered{"q_sqr", 1, call<unless_null<square_root>>},
+    Registered{"q_str", 1, call<unless_null<signed_text>>},
+    Registered{"q_val", 1, call<unless_null<number_at_start>>},
+};
+
+}  // namespace
+
+int register_functions(sqlite3* handle, int* fault) {
+  for (const auto& entry : functions) {
+    const int code =
+        sqlite3_create_function(handle, entry.name, entry.arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                fault, entry.function, nullptr, nullptr);
+    if (code != SQLITE_OK) return code;
+  }
+  return SQLITE_OK;
+}
+
+}  // namespace runtime::engine::dialect

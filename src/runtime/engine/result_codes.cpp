@@ -1,0 +1,76 @@
+#include "runtime/engine/result_codes.h"
+
+#include <sqlite3.h>
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace runtime::engine {
+
+namespace {
+
+// What a statement that does not compile was refused for is told in words only.
+Fault fault_of_statement(std::string_view message) {
+  constexpr std::array prefixes{
+      std::pair{std::string_view("no such table: "), 3078},
+      std::pair{std::string_view("no such column: "), 3061},
+      std::pair{std::string_view("ambiguous column name: "), 3079},
+      std::pair{std::string_view("no such function: "), 3085},
+  };
+  for (const auto& [prefix, number] : prefixes)
+    if (message.substr(0, prefix.size()) == prefix)
+      return Fault(number, std::string(message.substr(prefix.size())));
+
+  constexpr std::string_view exists = " already exists";
+  if (message.size() > exists.size() && message.substr(message.size() - exists.size()) == exists) {
+    const auto name = message.substr(0, message.size() - exists.size());
+    return Fault(3010, std::string(name.substr(name.find(' ') + 1)));
+  }
+  return Fault(3075, std::string(message));
+}
+
+int fault_number(int code) {
+  switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return 3260;
+    case SQLITE_FULL:
+      return 3026;
+    case SQLITE_READONLY:
+      return 3027;
+    case SQLITE_CORRUPT:
+      return 3049;
+    case SQLITE_NOTADB:
+      return 3343;
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+      return 75;
+    case SQLITE_IOERR:
+      return 57;
+    case SQLITE_NOMEM:
+      return 7;
+    default:
+      return 51;
+  }
+}
+
+}  // namespace
+
+Fault fault_of(int code, const std::string& message, const std::filesystem::path& file) {
+  if (code == SQLITE_READONLY_DBMOVED) return Fault(1032, file.string());
+  switch (code & 0xff) {
+    case SQLITE_ERROR:
+    case SQLITE_AUTH:
+      return fault_of_statement(message);
+    case SQLITE_CONSTRAINT:
+    case SQLITE_MISMATCH:
+      return Fault(3421, message);
+    default:
+      break;
+  }
+  const int number = fault_number(code);
+  return Fault(number, number == 51 ? message : file.string());
+}
+
+}  // namespace runtime::engine

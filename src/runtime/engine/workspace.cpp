@@ -1,0 +1,84 @@
+#include "runtime/engine/workspace.h"
+
+#include <system_error>
+
+#include "runtime/engine/connection.h"
+#include "runtime/engine/transactions.h"
+#include "runtime/fault.h"
+
+namespace runtime::engine {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// By name as well: the journal may not be there, and a file that was replaced has another identity.
+bool same_file(const fs::path& one, const fs::path& other) {
+  std::error_code ignored;
+  if (fs::absolute(one, ignored).lexically_normal() == fs::absolute(other, ignored).lexically_normal())
+    return true;
+  return fs::equivalent(one, other, ignored);
+}
+
+fs::path journal_of(const fs::path& file) {
+  fs::path journal = file;
+  journal += "-journal";
+  return journal;
+}
+
+void check_tables(Connection& connection, const std::vector<std::string>& required) {
+  for (const auto& table : required)
+    if (!connection.has_table(table)) throw Fault(3343, connection.file().string());
+}
+
+}  // namespace
+
+Workspace::Workspace()
+    : resolve_name([](std::string_view name) { return fs::absolute(fs::path(std::u8string(name.begin(), name.end()))); }),
+      transactions_(std::make_shared<Transactions>()) {}
+
+Workspace::~Workspace() {
+  ignoring_faults([this] { transactions_->drop(); });
+}
+
+Database Workspace::open_database(std::string_view name) {
+  const fs::path file = resolve_name(name);
+  std::error_code ignored;
+  if (!fs::exists(file, ignored)) throw Fault(3024, std::string(name));
+
+  auto connection = open_.lock();
+  if (connection && !same_file(connection->file(), file)) throw Fault(75, file.string());
+  if (!connection) {
+    connection = std::make_shared<Connection>(file, transactions_, lock_wait);
+    check_tables(*connection, required_tables);
+    open_ = connection;
+  }
+  return Database(std::move(connection));
+}
+
+void Workspace::begin_trans() {
+  transactions_->begin();
+}
+void Workspace::commit_trans() {
+  transactions_->commit();
+}
+void Workspace::rollback() {
+  transactions_->rollback();
+}
+int Workspace::levels() const {
+  return transactions_->levels();
+}
+void Workspace::handler_ended() {
+  transactions_->handler_ended();
+}
+void Workspace::before_program() {
+  transactions_->before_program();
+}
+
+bool Workspace::holds(const fs::path& file) const {
+  const auto connection = open_.lock();
+  return connection &&
+         (same_file(file, connection->file()) || same_file(file, journal_of(connection->file())));
+}
+
+}  // namespace runtime::engine

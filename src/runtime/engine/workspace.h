@@ -1,0 +1,66 @@
+// The workspace: the one connection that all database objects of the process share, and its transactions.
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/engine/database.h"
+
+namespace runtime::engine {
+
+class Transactions;
+
+/// Opens the project database and brackets what is written to it.
+///
+/// Levels nest. What a handler writes is gathered and made durable when the outermost handler ends, whatever
+/// levels stand open by then; a level that outlives its handler is "old" and guards nothing any more.
+class Workspace {
+ public:
+  Workspace();
+  ~Workspace();  ///< Drops what the handler under way has written.
+  Workspace(const Workspace&) = delete;
+  Workspace& operator=(const Workspace&) = delete;
+
+  /// How the file of a name is found. Default: relative to the current directory.
+  std::function<std::filesystem::path(std::string_view)> resolve_name;
+
+  /// The tables that a project database must hold, looked at when a file is opened.
+  std::vector<std::string> required_tables;
+
+  /// How long a lock of another program is waited for.
+  std::chrono::milliseconds lock_wait{5000};
+
+  /// A handle on the file; every handle of this workspace is on the same connection. The file is never made.
+  /// Faults: 3024 missing, 3343 not a project database (foreign, empty, a required table missing),
+  /// 3049 damaged, 3260 in use by another program, 75 not readable, or another file is open already.
+  Database open_database(std::string_view name);
+
+  /// Begins a level. Needs no open file.
+  void begin_trans();
+  /// Ends the innermost level and keeps its writes. Does nothing to an old one. Fault 3034: no level stands.
+  void commit_trans();
+  /// Ends the innermost level and takes back its writes; of an old one, all that the present handler has
+  /// written. Fault 3034: no level stands.
+  void rollback();
+  /// How many levels stand, old ones included.
+  int levels() const;
+
+  /// The outermost handler ended: makes durable all that it wrote; its open levels become old ones.
+  void handler_ended();
+  /// An external program starts: makes durable what was written, unless a level of this handler stands.
+  void before_program();
+
+  /// Whether `file` is the database file or its journal, while that is open.
+  bool holds(const std::filesystem::path& file) const;
+
+ private:
+  std::shared_ptr<Transactions> transactions_;
+  std::weak_ptr<Connection> open_;
+};
+
+}  // namespace runtime::engine
