@@ -19,14 +19,13 @@ Fault fault_of_statement(std::string_view message) {
       std::pair{std::string_view("no such function: "), 3085},
   };
   for (const auto& [prefix, number] : prefixes)
-    if (message.substr(0, prefix.size()) == prefix)
-      return Fault(number, std::string(message.substr(prefix.size())));
+    if (message.starts_with(prefix)) return Fault(number, std::string(message.substr(prefix.size())));
 
-  constexpr std::string_view exists = " already exists";
-  if (message.size() > exists.size() && message.substr(message.size() - exists.size()) == exists) {
-    const auto name = message.substr(0, message.size() - exists.size());
-    return Fault(3010, std::string(name.substr(name.find(' ') + 1)));
-  }
+  // The name stands in the quotes that the statement gave it.
+  constexpr std::string_view table = "table \"";
+  constexpr std::string_view exists = "\" already exists";
+  if (message.starts_with(table) && message.find(exists) != std::string_view::npos)
+    return Fault(3010, std::string(message.substr(table.size(), message.find(exists) - table.size())));
   return Fault(3075, std::string(message));
 }
 

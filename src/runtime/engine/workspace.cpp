@@ -34,7 +34,9 @@ void check_tables(Connection& connection, const std::vector<std::string>& requir
 }  // namespace
 
 Workspace::Workspace()
-    : resolve_name([](std::string_view name) { return fs::absolute(fs::path(std::u8string(name.begin(), name.end()))); }),
+    : resolve_name([](std::string_view name) {
+        return fs::absolute(fs::path(std::u8string(name.begin(), name.end())));
+      }),
       transactions_(std::make_shared<Transactions>()) {}
 
 Workspace::~Workspace() {

@@ -45,6 +45,23 @@ std::string ask(const std::filesystem::path& file, const std::string& sql) {
   return answer;
 }
 
+struct Reader {
+  sqlite3* handle = nullptr;
+  sqlite3_stmt* statement = nullptr;
+  ~Reader() {
+    sqlite3_finalize(statement);
+    sqlite3_close(handle);
+  }
+};
+
+std::shared_ptr<Reader> hold_for_reading(const std::filesystem::path& file) {
+  auto reader = std::make_shared<Reader>();
+  sqlite3_open(file.c_str(), &reader->handle);
+  sqlite3_prepare_v2(reader->handle, "SELECT * FROM Commuter", -1, &reader->statement, nullptr);
+  EXPECT_EQ(sqlite3_step(reader->statement), SQLITE_ROW);
+  return reader;
+}
+
 ProjectFile::ProjectFile() : directory(new_directory()), file(directory / "zelmor.mdb") {
   const auto answer =
       ask("CREATE TABLE Commuter (\"index\" INTEGER, sigma REAL, wage REAL, description TEXT) STRICT;"

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "runtime/engine/workspace.h"
@@ -26,6 +27,10 @@ int fault_of(Action&& action) {
 /// Runs SQL on a file through a connection of its own, made if need be. Gives the first value, as text; ""
 /// for Null or no row, "error: " and the words when it fails.
 std::string ask(const std::filesystem::path& file, const std::string& sql);
+
+/// Another program that reads the file and holds its lock until let go.
+struct Reader;
+std::shared_ptr<Reader> hold_for_reading(const std::filesystem::path& file);
 
 /// A directory with a database "zelmor.mdb", removed at the end.
 class ProjectFile : public ::testing::Test {

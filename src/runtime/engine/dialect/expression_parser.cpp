@@ -105,36 +105,35 @@ ExpressionParser::Piece ExpressionParser::negation() {
 }
 
 ExpressionParser::Piece ExpressionParser::comparison() {
-  constexpr std::array<std::string_view, 6> symbols{"=", "<>", "<", ">", "<=", ">="};
   Piece left = operation(0);
-  while (true) {
-    const auto* const symbol = std::find_if(symbols.begin(), symbols.end(), [this](std::string_view entry) {
-      return tokens_.take_symbol(entry);
-    });
-    const bool negated = symbol == symbols.end() && tokens_.take_word("not");
-    left = as_value(std::move(left));
-    if (symbol != symbols.end()) {
-      left = compared(std::string(*symbol), left, as_value(operation(0)));
-    } else if (tokens_.take_word("like")) {
-      left = like(left);
-    } else if (tokens_.take_word("between")) {
-      left = between(left);
-    } else if (tokens_.take_word("in")) {
-      left = one_of(left);
-    } else if (!negated && tokens_.take_word("is")) {
-      left = null_test(left);
-    } else {
-      if (negated) tokens_.fault();
-      return left;
-    }
-    if (negated) left.sql = "(NOT " + left.sql + ")";
-  }
+  while (auto result = test(left)) left = std::move(*result);
+  return left;
 }
 
-ExpressionParser::Piece ExpressionParser::compared(const std::string& symbol, const Piece& left,
+std::optional<ExpressionParser::Piece> ExpressionParser::test(const Piece& operand) {
+  constexpr std::array<std::string_view, 6> symbols{"=", "<>", "<", ">", "<=", ">="};
+  for (const auto symbol : symbols)
+    if (tokens_.take_symbol(symbol)) return compared(symbol, as_value(operand), as_value(operation(0)));
+  if (tokens_.take_word("is")) return null_test(as_value(operand));
+
+  const bool negated = tokens_.take_word("not");
+  std::optional<Piece> result;
+  if (tokens_.take_word("like"))
+    result = like(as_value(operand));
+  else if (tokens_.take_word("between"))
+    result = between(as_value(operand));
+  else if (tokens_.take_word("in"))
+    result = one_of(as_value(operand));
+  else if (negated)
+    tokens_.fault();
+  if (negated) result->sql = "(NOT " + result->sql + ")";
+  return result;
+}
+
+ExpressionParser::Piece ExpressionParser::compared(std::string_view symbol, const Piece& left,
                                                    const Piece& right) const {
   check_kinds(left, right);
-  return {"(" + collated(left) + " " + symbol + " " + right.sql + ")", Kind::Number, true};
+  return {"(" + collated(left) + " " + std::string(symbol) + " " + right.sql + ")", Kind::Number, true};
 }
 
 ExpressionParser::Piece ExpressionParser::like(const Piece& left) {

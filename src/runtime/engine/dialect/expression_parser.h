@@ -1,7 +1,9 @@
 // The precedence parser behind expressions and the expressions inside statements.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "runtime/engine/dialect/expression.h"
@@ -43,7 +45,8 @@ class ExpressionParser {
   Piece call();
   Piece column_piece();
 
-  Piece compared(const std::string& symbol, const Piece& left, const Piece& right) const;
+  std::optional<Piece> test(const Piece& operand);
+  Piece compared(std::string_view symbol, const Piece& left, const Piece& right) const;
   Piece like(const Piece& left);
   Piece between(const Piece& left);
   Piece one_of(const Piece& left);

@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "runtime/engine/dialect/like.h"
+#include "runtime/engine/dialect/number_text.h"
+#include "runtime/engine/dialect/quoting.h"
+
+namespace runtime::engine::dialect {
+namespace {
+
+TEST(Like, matches_the_whole_text_without_regard_to_case) {
+  EXPECT_TRUE(is_like("Mining", "mining"));
+  EXPECT_FALSE(is_like("Mining", "min"));
+  EXPECT_FALSE(is_like("", "a"));
+  EXPECT_TRUE(is_like("", ""));
+  EXPECT_TRUE(is_like("", "*"));
+}
+
+TEST(Like, takes_a_star_for_any_characters) {
+  EXPECT_TRUE(is_like("Manufacturing", "*fac*ing"));
+  EXPECT_TRUE(is_like("aab", "*ab"));
+  EXPECT_FALSE(is_like("aabx", "*ab"));
+  EXPECT_TRUE(is_like("a*", "a[*]"));
+  EXPECT_FALSE(is_like("ab", "a[*]"));
+}
+
+TEST(Like, takes_a_question_mark_for_one_character_and_a_number_sign_for_one_digit) {
+  EXPECT_TRUE(is_like("Zoë", "Zo?"));
+  EXPECT_FALSE(is_like("Zo", "Zo?"));
+  EXPECT_TRUE(is_like("a1", "a#"));
+  EXPECT_FALSE(is_like("ab", "a#"));
+}
+
+TEST(Like, takes_a_list_for_one_of_its_characters) {
+  EXPECT_TRUE(is_like("Bee", "[a-c]ee"));
+  EXPECT_FALSE(is_like("Bee", "[!a-c]ee"));
+  EXPECT_TRUE(is_like("Dee", "[!a-c]ee"));
+  EXPECT_TRUE(is_like("-", "[a-]"));
+  EXPECT_FALSE(is_like("[a", "[a"));
+}
+
+TEST(Like, takes_no_time_to_speak_of_for_many_stars) {
+  std::string pattern;
+  for (int i = 0; i < 30; ++i) pattern += "*a";
+  EXPECT_FALSE(is_like(std::string(2000, 'a'), pattern + "b"));
+}
+
+TEST(NumberIn, reads_a_text_that_is_a_number_and_no_other) {
+  EXPECT_EQ(number_in("12"), 12);
+  EXPECT_EQ(number_in(" -.5 "), -0.5);
+  EXPECT_EQ(number_in("+1e3"), 1000);
+  for (const char* text :
+       {"", " ", "-", ".", "1 2", "1x", "inf", "nan", "Information", "0x10", "+-1", "1e400", "1,5"})
+    EXPECT_EQ(number_in(text), std::nullopt) << text;
+}
+
+TEST(LeadingNumber, reads_as_far_as_it_can) {
+  EXPECT_EQ(leading_number(" 1 2.5km"), 12.5);
+  EXPECT_EQ(leading_number("-3e2x"), -300);
+  EXPECT_EQ(leading_number("km"), 0);
+  EXPECT_EQ(leading_number("-"), 0);
+}
+
+TEST(JoinedForm, has_no_blank_and_no_needless_digit) {
+  EXPECT_EQ(joined_form(0.0), "0");
+  EXPECT_EQ(joined_form(-0.0), "0");
+  EXPECT_EQ(joined_form(12.0), "12");
+  EXPECT_EQ(joined_form(-0.5), "-0.5");
+  EXPECT_EQ(joined_form(1200.0), "1200");
+  EXPECT_EQ(joined_form(0.1 + 0.2), "0.3");
+  EXPECT_EQ(joined_form(1.0 / 3), "0.333333333333333");
+  EXPECT_EQ(joined_form(14.51F), "14.51");
+  EXPECT_EQ(joined_form(1.0F / 3), "0.3333333");
+}
+
+TEST(JoinedForm, has_an_exponent_only_beyond_fifteen_places) {
+  EXPECT_EQ(joined_form(1e-15), "0.000000000000001");
+  EXPECT_EQ(joined_form(123456789012345.0), "123456789012345");
+  EXPECT_EQ(joined_form(1e15), "1E+15");
+  EXPECT_EQ(joined_form(-2.5e-16), "-2.5E-16");
+}
+
+TEST(Quoting, doubles_what_would_end_it) {
+  EXPECT_EQ(quoted_name("a\"b"), "\"a\"\"b\"");
+  EXPECT_EQ(quoted_text("it's"), "'it''s'");
+}
+
+}  // namespace
+}  // namespace runtime::engine::dialect
