@@ -10,7 +10,7 @@ namespace model {
 
 namespace {
 
-constexpr std::size_t buffer_size = 64 * 1024;
+constexpr std::size_t buffer_size = 65'536;
 constexpr std::size_t longest_line = 32'000;
 constexpr std::size_t longest_quote = 40;
 
@@ -79,6 +79,7 @@ std::vector<double> read_numbers(LineReader& file, std::size_t count) {
                 " and holds " + std::to_string(pieces.size()));
   }
   std::vector<double> values;
+  values.reserve(count);
   for (const auto piece : pieces) values.push_back(read_number(file, piece));
   return values;
 }

@@ -208,6 +208,22 @@ TEST_F(CommuterReport, longer_report_of_an_earlier_run_is_replaced) {
   EXPECT_LT(report("NONE").size(), 5'000U);
 }
 
+#ifdef __linux__
+TEST_F(CommuterReport, report_that_does_not_fit_on_the_disk_is_refused) {
+  run_both_cases(study, "NONE");
+  std::filesystem::create_symlink("/dev/full", study.path() / "report.txt");
+  EXPECT_EQ(study.run(REPORT_PROGRAM), 0);
+  EXPECT_EQ(study.read("err.txt"), "1, report.txt: the file cannot be written\r\n");
+}
+
+TEST_F(CommuterReport, fails_when_its_verdict_does_not_fit_on_the_disk) {
+  run_both_cases(study, "NONE");
+  study.remove("err.txt");
+  std::filesystem::create_symlink("/dev/full", study.path() / "err.txt");
+  EXPECT_EQ(study.run(REPORT_PROGRAM), 1);
+}
+#endif
+
 class ReportRefusal : public testing::TestWithParam<RefusedFile> {};
 
 TEST_P(ReportRefusal, names_the_file_the_line_and_the_reason) {
