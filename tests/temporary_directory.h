@@ -28,12 +28,23 @@ class TemporaryDirectory {
   ~TemporaryDirectory() {
     std::error_code error;
     std::filesystem::current_path(before_, error);
+    allow_removal();
     std::filesystem::remove_all(path_, error);
   }
 
   const std::filesystem::path& path() const { return path_; }
 
  private:
+  // A test may have locked a directory of its own.
+  void allow_removal() const {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, error)) {
+      if (!entry.is_directory(error) || entry.is_symlink(error)) continue;
+      std::filesystem::permissions(entry, std::filesystem::perms::owner_all,
+                                   std::filesystem::perm_options::add, error);
+    }
+  }
+
   std::filesystem::path before_;
   std::filesystem::path path_;
 };
