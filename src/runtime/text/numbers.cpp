@@ -168,7 +168,7 @@ void append_joined(std::string& line, double number) {
 namespace {
 
 struct Printed {
-  std::string operator()(std::monostate) const { return "Null"; }
+  std::string operator()(std::monostate) const { return std::string(null_word); }
   std::string operator()(const std::string& text) const { return text; }
   std::string operator()(auto number) const {
     std::string line;

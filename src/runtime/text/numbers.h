@@ -17,7 +17,10 @@ double val(std::string_view text);
 /// `number` as a 16-bit whole number, a half going to the even one. Outside -32768 to 32767: Fault 6.
 std::int16_t whole_16(double number);
 
-/// A value as Print # writes it: " 12 ", " .5 ", "-3.5 ", a text as it is, Null as the word "Null".
+/// What Print # writes for Null.
+inline constexpr std::string_view null_word = "Null";
+
+/// A value as Print # writes it: " 12 ", " .5 ", "-3.5 ", a text as it is, Null as `null_word`.
 /// Numbers have the fewest digits that read back to the same value, at most 15 (7 in single precision), and
 /// an exponent ("1E+16", "1.5E-20") only outside 1E-15 to 1E15. An infinite number is Fault 6.
 std::string printed(const Value& value);

@@ -14,7 +14,7 @@ constexpr std::size_t zone_width = 14;
 using Content = std::variant<Zone, std::string_view, std::int64_t, float, double>;
 
 struct ContentOf {
-  Content operator()(std::monostate) const { return std::string_view("Null"); }
+  Content operator()(std::monostate) const { return null_word; }
   Content operator()(const std::string& text) const { return std::string_view(text); }
   Content operator()(auto number) const { return number; }
 };
