@@ -23,7 +23,8 @@ class Files {
   static constexpr int directory_attribute = 16;
 
   /// Whether another room of the program holds this file open, as the engine does with its database. Set by
-  /// the owner of both. Such a file is never opened, copied, deleted or renamed here.
+  /// the owner of both, and asked with paths that may be relative to the current directory. Such a file is
+  /// never opened, copied, deleted or renamed here.
   std::function<bool(const std::filesystem::path&)> held_elsewhere;
 
   /// The name, without its directory, of the file that `name` or the first in byte order that a pattern of

@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <future>
@@ -26,9 +27,9 @@ int exit_code_of(pid_t process) {
 
 int launch_and_wait(const Command& command, const std::function<void()>& while_waiting) {
   std::vector<std::string> words(command.begin(), command.end());
-  std::vector<char*> arguments;
-  for (std::string& word : words) arguments.push_back(word.data());
-  arguments.push_back(nullptr);
+  std::vector<char*> arguments(words.size() + 1, nullptr);
+  std::transform(words.begin(), words.end(), arguments.begin(),
+                 [](std::string& word) { return word.data(); });
   pid_t process = 0;
   // Not posix_spawnp, which goes through a shell for a file without a header.
   if (posix_spawn(&process, arguments.front(), nullptr, nullptr, arguments.data(), environ) != 0)
