@@ -203,11 +203,11 @@ void Recordset::edit() {
   state().begin_edit(Edit::Change);
 }
 
-void Recordset::set(std::string_view name, Value value) {
-  set(state().position_of(name), std::move(value));
+void Recordset::set(std::string_view name, const Value& value) {
+  set(state().position_of(name), value);
 }
 
-void Recordset::set(int position, Value value) {
+void Recordset::set(int position, const Value& value) {
   auto& s = state();
   const auto place = s.checked(position);
   if (s.edit == Edit::None) throw Fault(3020);

@@ -52,8 +52,8 @@ class Recordset {
   /// Sets a field of the record under way. Faults: 3020 without add_new() or edit(), 3421 when the field
   /// cannot take the value: a word or an infinity in a number field, a fraction in a whole-number field, a
   /// number out of range.
-  void set(std::string_view name, Value value);
-  void set(int position, Value value);
+  void set(std::string_view name, const Value& value);
+  void set(int position, const Value& value);
   /// Stores the fields that were set, no others. After an edit the fields are as stored; after add_new() the
   /// current record is the one before it, or the new one when there was none at all. Faults: 3020 without
   /// add_new() or edit(), 3021 when the row is gone, and those of a write: 3026, 3027, 3049, 3260, 1032.

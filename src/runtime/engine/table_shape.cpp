@@ -11,6 +11,7 @@
 #include "runtime/engine/connection.h"
 #include "runtime/engine/dialect/number_text.h"
 #include "runtime/fault.h"
+#include "runtime/text/numbers.h"
 
 namespace runtime::engine {
 
@@ -64,12 +65,6 @@ float single_number(const Field& field, double number) {
   return single;
 }
 
-std::string text_of(const Value& value) {
-  if (const auto* const text = std::get_if<std::string>(&value)) return *text;
-  if (const auto* const single = std::get_if<float>(&value)) return dialect::joined_form(*single);
-  return dialect::joined_form(*number_of(value));
-}
-
 }  // namespace
 
 bool same_name(std::string_view one, std::string_view other) {
@@ -99,7 +94,7 @@ Value converted(const Field& field, const Value& value) {
     case FieldKind::Single:
       return single_number(field, finite_number(field, value));
     case FieldKind::Text:
-      return text_of(value);
+      return text::joined(value);
     default:
       return value;
   }

@@ -55,32 +55,6 @@ TEST(NumberIn, reads_a_text_that_is_a_number_and_no_other) {
     EXPECT_EQ(number_in(text), std::nullopt) << text;
 }
 
-TEST(LeadingNumber, reads_as_far_as_it_can) {
-  EXPECT_EQ(leading_number(" 1 2.5km"), 12.5);
-  EXPECT_EQ(leading_number("-3e2x"), -300);
-  EXPECT_EQ(leading_number("km"), 0);
-  EXPECT_EQ(leading_number("-"), 0);
-}
-
-TEST(JoinedForm, has_no_blank_and_no_needless_digit) {
-  EXPECT_EQ(joined_form(0.0), "0");
-  EXPECT_EQ(joined_form(-0.0), "0");
-  EXPECT_EQ(joined_form(12.0), "12");
-  EXPECT_EQ(joined_form(-0.5), "-0.5");
-  EXPECT_EQ(joined_form(1200.0), "1200");
-  EXPECT_EQ(joined_form(0.1 + 0.2), "0.3");
-  EXPECT_EQ(joined_form(1.0 / 3), "0.333333333333333");
-  EXPECT_EQ(joined_form(14.51F), "14.51");
-  EXPECT_EQ(joined_form(1.0F / 3), "0.3333333");
-}
-
-TEST(JoinedForm, has_an_exponent_only_beyond_fifteen_places) {
-  EXPECT_EQ(joined_form(1e-15), "0.000000000000001");
-  EXPECT_EQ(joined_form(123456789012345.0), "123456789012345");
-  EXPECT_EQ(joined_form(1e15), "1E+15");
-  EXPECT_EQ(joined_form(-2.5e-16), "-2.5E-16");
-}
-
 TEST(Quoting, doubles_what_would_end_it) {
   EXPECT_EQ(quoted_name("a\"b"), "\"a\"\"b\"");
   EXPECT_EQ(quoted_text("it's"), "'it''s'");

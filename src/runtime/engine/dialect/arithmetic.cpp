@@ -5,6 +5,7 @@
 
 #include "runtime/engine/dialect/number_text.h"
 #include "runtime/fault.h"
+#include "runtime/text/numbers.h"
 
 namespace runtime::engine::dialect {
 
@@ -37,7 +38,7 @@ std::int64_t as_long(const Value& value) {
 
 Value joined(const Value& left, const Value& right) {
   if (is_null(left) && is_null(right)) return {};
-  return as_text(left) + as_text(right);
+  return text::joined(left) + text::joined(right);
 }
 
 Value divided_whole(char operation, const Value& left, const Value& right) {
@@ -64,12 +65,6 @@ double as_number(const Value& value) {
   return *number;
 }
 
-std::string as_text(const Value& value) {
-  if (is_null(value)) return {};
-  if (const auto* const text = std::get_if<std::string>(&value)) return *text;
-  return joined_form(as_number(value));
-}
-
 std::int64_t as_whole(const Value& value, double least, double most) {
   const double rounded = std::nearbyint(as_number(value));
   if (!(rounded >= least && rounded <= most)) throw Fault(6);
@@ -85,7 +80,7 @@ double finite(double number) {
 Value calculate(char operation, const Value& left, const Value& right) {
   if (operation == '&') return joined(left, right);
   if (is_null(left) || is_null(right)) return {};
-  if (operation == '+' && is_text(left) && is_text(right)) return as_text(left) + as_text(right);
+  if (operation == '+' && is_text(left) && is_text(right)) return joined(left, right);
   if (operation == '\\' || operation == 'm') return divided_whole(operation, left, right);
 
   const double a = as_number(left);

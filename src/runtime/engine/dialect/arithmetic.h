@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "runtime/value.h"
 
@@ -10,8 +9,6 @@ namespace runtime::engine::dialect {
 
 /// A number as such, a text that is one as its number. Fault 13 for any other text, 94 for Null.
 double as_number(const Value& value);
-/// A text as such, a number in its joined form, Null as nothing.
-std::string as_text(const Value& value);
 /// Rounded half to even. Fault 6 outside `least` to `most`.
 std::int64_t as_whole(const Value& value, double least, double most);
 

@@ -133,7 +133,9 @@ std::optional<ExpressionParser::Piece> ExpressionParser::test(const Piece& opera
 ExpressionParser::Piece ExpressionParser::compared(std::string_view symbol, const Piece& left,
                                                    const Piece& right) const {
   check_kinds(left, right);
-  return {"(" + collated(left) + " " + std::string(symbol) + " " + right.sql + ")", Kind::Number, true};
+  std::string sql = "(" + collated(left) + " ";
+  sql.append(symbol).append(" ").append(right.sql).append(")");
+  return {std::move(sql), Kind::Number, true};
 }
 
 ExpressionParser::Piece ExpressionParser::like(const Piece& left) {

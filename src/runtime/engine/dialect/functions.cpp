@@ -12,8 +12,8 @@
 
 #include "runtime/engine/dialect/arithmetic.h"
 #include "runtime/engine/dialect/like.h"
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/fault.h"
+#include "runtime/text/numbers.h"
 
 namespace runtime::engine::dialect {
 
@@ -88,7 +88,7 @@ Value negate(const Arguments& arguments) {
 }
 
 Value like(const Arguments& arguments) {
-  return std::int64_t{is_like(as_text(arguments[0]), as_text(arguments[1])) ? 1 : 0};
+  return std::int64_t{is_like(text::joined(arguments[0]), text::joined(arguments[1])) ? 1 : 0};
 }
 
 Value absolute(const Arguments& arguments) {
@@ -136,19 +136,18 @@ Value to_whole(const Arguments& arguments) {
 
 Value to_text(const Arguments& arguments) {
   if (is_null(arguments[0])) throw Fault(94);
-  return as_text(arguments[0]);
+  return text::joined(arguments[0]);
 }
 
-// A blank stands where the sign of a negative number would, and no 0 before a point.
+// As a line shows the number, but for the blank behind it.
 Value signed_text(const Arguments& arguments) {
-  auto text = joined_form(as_number(arguments[0]));
-  if (text.compare(0, 2, "0.") == 0) text.erase(0, 1);
-  if (text.compare(0, 3, "-0.") == 0) text.erase(1, 1);
-  return text.front() == '-' ? text : " " + text;
+  auto text = text::printed(as_number(arguments[0]));
+  text.pop_back();
+  return text;
 }
 
 Value number_at_start(const Arguments& arguments) {
-  return leading_number(as_text(arguments[0]));
+  return text::val(text::joined(arguments[0]));
 }
 
 // Texts are counted in characters, not in bytes.
@@ -180,15 +179,15 @@ std::size_t count_in(const Value& value) {
 }
 
 Value text_length(const Arguments& arguments) {
-  return static_cast<std::int64_t>(length(as_text(arguments[0])));
+  return static_cast<std::int64_t>(length(text::joined(arguments[0])));
 }
 
 Value left(const Arguments& arguments) {
-  return part(as_text(arguments[0]), 0, count_in(arguments[1]));
+  return part(text::joined(arguments[0]), 0, count_in(arguments[1]));
 }
 
 Value right(const Arguments& arguments) {
-  const auto text = as_text(arguments[0]);
+  const auto text = text::joined(arguments[0]);
   const auto all = length(text);
   const auto count = std::min(all, count_in(arguments[1]));
   return part(text, all - count, count);
@@ -197,7 +196,7 @@ Value right(const Arguments& arguments) {
 Value middle(const Arguments& arguments) {
   const auto first = count_in(arguments[1]);
   if (first == 0) throw Fault(5);
-  const auto text = as_text(arguments[0]);
+  const auto text = text::joined(arguments[0]);
   return part(text, first - 1, arguments.size() == 3 ? count_in(arguments[2]) : text.size());
 }
 
