@@ -74,6 +74,13 @@ void Connection::before_write() {
   transactions_->before_write(shared_from_this());
 }
 
+void Connection::begin_reading() {
+  transactions_->begin_reading(shared_from_this());
+}
+void Connection::end_reading() {
+  transactions_->end_reading();
+}
+
 bool Connection::in_transaction() const {
   return sqlite3_get_autocommit(handle_) == 0;
 }

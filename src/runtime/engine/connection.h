@@ -39,6 +39,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// Must go before every statement that writes.
   void before_write();
   bool in_transaction() const;
+  /// Spare a long walk the lock of each single read.
+  void begin_reading();
+  void end_reading();
 
   /// Runs a statement without parameters, in the store's own language.
   void run(std::string_view sql);

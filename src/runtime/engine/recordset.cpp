@@ -19,6 +19,9 @@ namespace {
 enum class Place { BeforeFirst, OnRow, PastLast };
 enum class Edit { None, Change, New };
 
+// From so many steps on it is a long walk: a read that asks for its own lock takes seven times as long.
+constexpr int long_walk = 64;
+
 dialect::Names names_of(const std::vector<Field>& fields) {
   dialect::Names names;
   for (const auto& field : fields)
@@ -38,6 +41,7 @@ struct Recordset::State {
   Place place = Place::PastLast;
   bool is_empty = true;  // no row was found at all: both before the first and past the last
   Row current;
+  int steps = 0;
 
   Edit edit = Edit::None;
   std::vector<std::optional<Value>> changes;
@@ -156,9 +160,11 @@ void Recordset::move_last() {
 void Recordset::move_next() {
   if (eof()) throw Fault(3021);
   auto& s = state();
+  if (++s.steps % long_walk == 0) s.connection->begin_reading();
   const bool from_start = s.place == Place::BeforeFirst;
   s.stand_on(from_start ? s.rows.first(*s.connection) : s.rows.after(*s.connection, s.current.key),
              Place::PastLast);
+  if (s.place == Place::PastLast) s.connection->end_reading();
 }
 
 void Recordset::move_previous() {

@@ -16,6 +16,7 @@ std::string savepoint(std::size_t level) {
 }  // namespace
 
 void Transactions::before_write(const std::shared_ptr<Connection>& connection) {
+  end_reading();
   if (!connection->in_transaction()) {
     // At once and not at the first change of a page: a lock of another program is then told here.
     connection->run("BEGIN IMMEDIATE");
@@ -27,6 +28,18 @@ void Transactions::before_write(const std::shared_ptr<Connection>& connection) {
     connection->run("SAVEPOINT " + savepoint(level));
     live_[level] = true;
   }
+}
+
+void Transactions::begin_reading(const std::shared_ptr<Connection>& connection) {
+  if (kept_ || connection->in_transaction()) return;
+  connection->run("BEGIN");
+  reading_ = connection;
+}
+
+void Transactions::end_reading() {
+  const auto connection = reading_.lock();
+  reading_.reset();
+  if (connection && connection->in_transaction()) connection->run("COMMIT");
 }
 
 bool Transactions::writes_pending() const {
@@ -59,12 +72,14 @@ void Transactions::rollback() {
 }
 
 void Transactions::handler_ended() {
+  end_reading();
   old_ += static_cast<int>(live_.size());
   live_.clear();
   make_durable();
 }
 
 void Transactions::before_program() {
+  end_reading();
   if (live_.empty()) make_durable();
 }
 

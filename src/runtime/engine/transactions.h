@@ -24,6 +24,11 @@ class Transactions {
   /// Opens a transaction, and a savepoint for each level of this handler that has none yet.
   void before_write(const std::shared_ptr<Connection>& connection);
 
+  /// Holds the file for reading, so that not every single read asks the system for a lock. Ends with
+  /// end_reading(), the first write, the handler or the start of a program.
+  void begin_reading(const std::shared_ptr<Connection>& connection);
+  void end_reading();
+
  private:
   bool writes_pending() const;
   void make_durable();
@@ -31,6 +36,7 @@ class Transactions {
   int old_ = 0;                       // levels whose handler has ended
   std::vector<bool> live_;            // levels of the present handler: whether a savepoint stands for it
   std::shared_ptr<Connection> kept_;  // keeps the file open while something waits to be made durable
+  std::weak_ptr<Connection> reading_;
 };
 
 }  // namespace runtime::engine

@@ -121,6 +121,55 @@ TEST_F(Moving, to_the_next_row_by_key_sees_no_row_twice_while_rows_change) {
   EXPECT_EQ(steps, 3);
 }
 
+class LongWalk : public RecordsetTest {
+ protected:
+  LongWalk() {
+    for (int i = 0; i < 6; ++i) database.execute("insert into Commuter select * from Commuter");
+    workspace.handler_ended();
+    rows = database.open_recordset("Commuter");
+    for (; steps < 100; ++steps) rows.move_next();
+  }
+  std::string write_from_outside() const { return ask("UPDATE Commuter SET wage = 1"); }
+
+  int steps = 0;
+  Recordset rows;
+};
+
+TEST_F(LongWalk, meets_every_row_once_also_when_it_writes_on_the_way) {
+  for (; !rows.eof(); ++steps) {
+    rows.edit();
+    rows.set("wage", 2.0);
+    rows.update();
+    rows.move_next();
+  }
+  EXPECT_EQ(steps, 192);
+  workspace.handler_ended();
+  EXPECT_EQ(ask("SELECT count(*) FROM Commuter WHERE wage = 2"), "92");
+}
+
+TEST_F(LongWalk, lets_other_programs_write_when_it_has_come_to_its_end) {
+  EXPECT_EQ(write_from_outside(), "error: database is locked");
+  while (!rows.eof()) rows.move_next();
+  EXPECT_EQ(write_from_outside(), "");
+}
+
+TEST_F(LongWalk, lets_other_programs_write_when_its_handler_ends) {
+  workspace.handler_ended();
+  EXPECT_EQ(write_from_outside(), "");
+}
+
+TEST_F(LongWalk, lets_an_external_program_write_also_within_a_level) {
+  workspace.begin_trans();
+  workspace.before_program();
+  EXPECT_EQ(write_from_outside(), "");
+}
+
+TEST_F(LongWalk, lets_other_programs_write_when_its_file_is_closed) {
+  rows.close();
+  database.close();
+  EXPECT_EQ(write_from_outside(), "");
+}
+
 TEST_F(Fields, are_found_by_name_in_any_case_and_by_position) {
   auto rows = database.open_recordset("Commuter");
   EXPECT_EQ(rows.field_count(), 4);
