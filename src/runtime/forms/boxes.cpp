@@ -1,0 +1,62 @@
+#include "runtime/forms/boxes.h"
+
+#include <QMessageBox>
+
+#include "runtime/fault.h"
+#include "runtime/forms/desktop.h"
+#include "runtime/forms/twips.h"
+
+namespace runtime::forms {
+
+namespace {
+
+constexpr int buttons_mask = 0x0F;
+constexpr int icon_mask = 0xF0;
+
+QMessageBox::Icon icon_of(int style) {
+  switch (style & icon_mask) {
+    case critical:
+      return QMessageBox::Critical;
+    case question:
+      return QMessageBox::Question;
+    case exclamation:
+      return QMessageBox::Warning;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+/// Prompts part their lines by a lone carriage return, which a label would not break at.
+QString with_line_feeds(const std::string& prompt) {
+  QString text = qt(prompt);
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  return text.replace(u'\r', u'\n');
+}
+
+int exec(QWidget* parent, const char* name, const QString& text, int style, const std::string& title) {
+  QMessageBox box(parent);
+  box.setObjectName(QString::fromLatin1(name));
+  box.setWindowTitle(qt(title));
+  box.setTextFormat(Qt::PlainText);  // a path with "<" in it is no markup
+  box.setText(text);
+  box.setIcon(icon_of(style));
+  const bool asks = (style & buttons_mask) == yes_no;
+  box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
+                              : QMessageBox::StandardButtons(QMessageBox::Ok));
+  const int answer = box.exec();
+  if (!asks) return reply_ok;
+  return answer == QMessageBox::Yes ? reply_yes : reply_no;
+}
+
+}  // namespace
+
+int show_message(QWidget* parent, const std::string& prompt, int style, const std::string& title) {
+  return exec(parent, "MsgBox", with_line_feeds(prompt), style, title);
+}
+
+void show_runtime_error(QWidget* parent, const Fault& fault, const std::string& title) {
+  const QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(fault.number).arg(qt(fault.what()));
+  exec(parent, "RuntimeError", text, critical, title);
+}
+
+}  // namespace runtime::forms

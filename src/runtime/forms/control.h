@@ -1,0 +1,93 @@
+// What every control of a form has: a name, a place in twips, visibility, and the handlers of its events.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "runtime/forms/design.h"
+
+namespace runtime::forms {
+
+class ControlSet;
+class Desktop;
+
+enum class Event { Load, Resize, Click, Change, LostFocus };
+
+class Control {
+ public:
+  Control(ControlSet& owner, const char* name, int index = no_index);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  /// Makes the widget as designed inside `parent`.
+  void create(const ControlDesign& design, QWidget* parent, Desktop& desktop);
+
+  virtual Kind kind() const = 0;
+  const std::string& name() const { return name_; }
+  int index() const { return index_; }
+  /// "Command11", or "Command10(3)" for an element of a control array.
+  std::string full_name() const;
+  QWidget* widget() const { return widget_; }
+
+  const Place& place() const { return place_; }
+  int left() const { return place_.left; }
+  int top() const { return place_.top; }
+  int width() const { return place_.width; }
+  int height() const { return place_.height; }
+  void set_left(int twips);
+  void set_top(int twips);
+  void set_width(int twips);
+  void set_height(int twips);
+  void set_place(const Place& place);
+
+  bool visible() const { return visible_; }
+  void set_visible(bool visible);
+  bool is_enabled() const { return enabled_; }
+  void set_enabled(bool enabled);
+  const std::string& caption() const { return caption_; }
+  void set_caption(const std::string& caption);
+  /// The size asked for, in points. Nothing is drawn smaller than the smallest legible size.
+  double font_size() const { return font_size_; }
+  void set_font_size(double points);
+  void set_tab_stop(bool tab_stop);
+
+  /// Sets the handler of an event; a control without one passes the event over.
+  void on(Event event, std::function<void()> handler) { handlers_[event] = std::move(handler); }
+
+ protected:
+  virtual QWidget* make_widget(QWidget* parent) = 0;
+  /// Puts the caption on the widget.
+  virtual void show_caption(const std::string&) {}
+  /// What a kind has to do once its widget stands in its place.
+  virtual void created(const ControlDesign&) {}
+  /// Labels and drawn shapes lie under everything that can be used.
+  virtual bool lies_under() const { return false; }
+
+  /// The event as set off by code: the handler's fault passes to the caller.
+  void fire(Event event);
+  /// The event as set off by a person: it goes through the desktop's edge, which reports a fault.
+  void fire_from_person(Event event);
+  /// Runs what the control itself does on a person's behalf, through the same edge.
+  void desktop_event(const std::function<void()>& action);
+  Desktop& desktop() const { return *desktop_; }
+  ControlSet& owner() const { return owner_; }
+
+ private:
+  ControlSet& owner_;
+  std::string name_;
+  int index_;
+  Desktop* desktop_ = nullptr;
+  QPointer<QWidget> widget_;
+  Place place_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  std::string caption_;
+  double font_size_ = 0;
+  std::map<Event, std::function<void()>> handlers_;
+};
+
+}  // namespace runtime::forms

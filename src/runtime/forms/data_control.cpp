@@ -1,0 +1,55 @@
+#include "runtime/forms/data_control.h"
+
+#include <QFrame>
+#include <algorithm>
+
+#include "runtime/forms/desktop.h"
+
+namespace runtime::forms {
+
+QWidget* DataControl::make_widget(QWidget* parent) {
+  return new QFrame(parent);
+}
+
+void DataControl::open() {
+  if (table_.empty()) return;  // this one is handed its recordset by code
+  database_ = desktop().workspace.open_database(desktop().database_name);
+  recordset_ = database_.open_recordset(table_);
+  fill();
+}
+
+bool DataControl::has_record() const {
+  return recordset_.is_set() && !recordset_.eof() && !recordset_.bof();
+}
+
+void DataControl::post() {
+  const bool any_changed =
+      std::any_of(boxes_.begin(), boxes_.end(), [](const auto& row) { return row.box->changed; });
+  if (!any_changed || !has_record()) return;
+  recordset_.edit();
+  for (const BoundField& row : boxes_) {
+    if (row.box->changed) recordset_.set(row.field, row.box->held_value());
+  }
+  recordset_.update();
+  for (const BoundField& row : boxes_) row.box->changed = false;
+}
+
+void DataControl::Refresh() {
+  recordset_.requery();
+  fill();
+}
+
+void DataControl::MoveFirst() {
+  post();
+  recordset_.move_first();
+  fill();
+}
+
+void DataControl::fill() {
+  for (const BoundField& row : boxes_) {
+    row.box->show_value(has_record() ? recordset_.field(row.field) : Value());
+    row.box->changed = false;
+  }
+}
+
+}  // namespace runtime::forms

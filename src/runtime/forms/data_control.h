@@ -1,0 +1,66 @@
+// The data control: a recordset on one table, and the boxes that show and store the fields of its record.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "runtime/engine/database.h"
+#include "runtime/engine/recordset.h"
+#include "runtime/forms/control.h"
+#include "runtime/value.h"
+
+namespace runtime::forms {
+
+/// A control that shows a field of a data control's record.
+class Bound {
+ public:
+  virtual ~Bound() = default;
+  /// Shows the stored value; the box counts as unchanged afterwards.
+  virtual void show_value(const Value& value) = 0;
+  /// What the box would store.
+  virtual Value held_value() const = 0;
+  /// A box stores by its own flag and never by comparing: several boxes may show one field.
+  bool changed = false;
+};
+
+class DataControl : public Control {
+ public:
+  using Control::Control;
+  Kind kind() const override { return Kind::Data; }
+
+  void attach(Bound& box, const char* field) { boxes_.push_back({&box, field}); }
+  /// Opens the project database by its bare name, so the current directory decides, and fills the boxes.
+  void open();
+  /// Stores the boxes that were changed, and only their fields. Without a record there is nowhere to store.
+  void post();
+  /// Reads the table anew and puts the stored values back into the boxes.
+  void Refresh();
+  /// Stores what the boxes hold, moves to the first record and fills the boxes from it.
+  void MoveFirst();
+
+  /// A field of the current record, as it was read at the last move or refresh.
+  Value field(const char* name) const { return recordset_.field(name); }
+  Value field(int position) const { return recordset_.field(position); }
+  int field_count() const { return recordset_.field_count(); }
+  engine::Recordset& recordset() { return recordset_; }
+
+ protected:
+  QWidget* make_widget(QWidget* parent) override;
+  void created(const ControlDesign& design) override { table_ = design.binding.source; }
+
+ private:
+  struct BoundField {
+    Bound* box;
+    const char* field;
+  };
+
+  bool has_record() const;
+  void fill();
+
+  std::string table_;
+  engine::Database database_;
+  engine::Recordset recordset_;
+  std::vector<BoundField> boxes_;
+};
+
+}  // namespace runtime::forms

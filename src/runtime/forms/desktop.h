@@ -1,0 +1,74 @@
+// What the desktop gives a running program: its directory, its files, its database workspace, the error
+// object, message boxes, and the edge at which every handler starts and ends.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "runtime/engine/workspace.h"
+#include "runtime/fault.h"
+#include "runtime/files/files.h"
+
+class QMdiArea;
+class QWidget;
+
+namespace runtime::forms {
+
+class FormBase;
+
+/// Buttons, icons and replies of a box, by the platform's numbers; a style is their sum.
+inline constexpr int ok_only = 0;
+inline constexpr int yes_no = 4;
+inline constexpr int critical = 16;
+inline constexpr int question = 32;
+inline constexpr int exclamation = 48;
+inline constexpr int reply_ok = 1;
+inline constexpr int reply_yes = 6;
+inline constexpr int reply_no = 7;
+
+class Desktop {
+ public:
+  /// `application_directory` holds the executable and all files of the installation.
+  explicit Desktop(std::string application_directory);
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  const std::string app_path;
+  ErrObject err;
+  files::Files files;
+  engine::Workspace workspace;
+  /// The title of a box without one of its own.
+  std::string program_title = "Quelar";
+  /// The main window: boxes belong to it, so that they outlive the work form that opened them.
+  QWidget* main_window = nullptr;
+  /// Where the work forms' windows live.
+  QMdiArea* mdi_area = nullptr;
+  /// The name by which every data control opens the project database, relative to the current directory.
+  std::string database_name;
+  /// The loaded work forms, in the order in which they were loaded.
+  std::vector<FormBase*> loaded_forms;
+
+  /// Shows a box and waits for its answer. `style` is the sum of buttons and icon; returns the reply's
+  /// number.
+  int MsgBox(const std::string& prompt, int style = ok_only, const std::string& title = {});
+
+  /// The edge of every handler that a person sets off: a fault that no trap took ends in the run-time error
+  /// report, and when the outermost handler ends, what was written is made durable.
+  void run_event(const std::function<void()>& handler);
+
+  /// Starts an external program by its bare name and waits for its end, with no time limit. Meanwhile the
+  /// windows repaint, and what the analyst does is dropped. Returns the exit code, or -1.
+  int run_program(const std::string& program);
+
+  /// True while a handler is under way.
+  bool busy() const { return depth_ > 0; }
+
+ private:
+  void report(const Fault& fault);
+  void end_of_handler();
+
+  int depth_ = 0;
+};
+
+}  // namespace runtime::forms

@@ -1,0 +1,179 @@
+#include "runtime/forms/form.h"
+
+#include <QMdiArea>
+#include <algorithm>
+
+#include "runtime/forms/data_control.h"
+#include "runtime/forms/desktop.h"
+#include "runtime/forms/form_window.h"
+#include "runtime/forms/twips.h"
+
+namespace runtime::forms {
+
+FormBase::FormBase(Desktop& desktop, const FormDesign& design) : desktop_(desktop), design_(design) {}
+
+FormBase::~FormBase() {
+  unload_without_storing();
+}
+
+QWidget* FormBase::surface() const {
+  return window_ == nullptr ? nullptr : window_->surface();
+}
+
+void FormBase::reference() {
+  if (loaded()) return;
+  build();
+  if (design_.appears_at_load) Show();
+}
+
+void FormBase::Load() {
+  reference();
+  if (!visible_) Show();
+}
+
+void FormBase::build() {
+  window_ = new FormWindow(design_, nullptr);
+  window_->hide();
+  if (desktop_.mdi_area != nullptr) {
+    desktop_.mdi_area->addSubWindow(window_, window_->windowFlags());
+    window_->hide();
+  }
+  controls_ = make_controls();
+  desktop_.loaded_forms.push_back(this);
+  try {
+    controls_->create(design_, window_->surface(), desktop_);
+    controls_->when_layout_changes = [this] { window_->fit(*controls_); };
+    window_->fit(*controls_);
+    set_caption(design_.caption);
+    tie_events();
+    open_data_controls();
+    run_form_event(Event::Load);
+  } catch (...) {
+    remove();
+    throw;
+  }
+}
+
+void FormBase::tie_events() {
+  for (const EventRow& row : events_) {
+    for (Control* control : controls_->all()) {
+      if (control->name() != row.control) continue;
+      control->on(row.event, [handler = row.handler, index = control->index()] { handler(index); });
+    }
+  }
+  QObject::connect(window_, &FormWindow::resized, window_, [this] {
+    if (loaded() && visible_) desktop_.run_event([this] { run_form_event(Event::Resize); });
+  });
+}
+
+void FormBase::run_form_event(Event event) {
+  const auto row = std::find_if(events_.begin(), events_.end(), [event](const EventRow& candidate) {
+    return candidate.control.empty() && candidate.event == event;
+  });
+  if (row != events_.end()) row->handler(no_index);
+}
+
+void FormBase::open_data_controls() {
+  for (const ControlDesign& row : design_.controls) {
+    if (row.binding.data == nullptr) continue;
+    auto* data = dynamic_cast<DataControl*>(controls_->find(row.binding.data, row.binding.data_index));
+    auto* bound = dynamic_cast<Bound*>(controls_->find(row.name, row.index));
+    if (data == nullptr || bound == nullptr) throw Fault(51, std::string(row.name) + " can't be bound");
+    data->attach(*bound, row.binding.source);
+  }
+  for (Control* control : controls_->all()) {
+    if (auto* data = dynamic_cast<DataControl*>(control)) data->open();
+  }
+}
+
+void FormBase::post_boxes() {
+  for (Control* control : controls_->all()) {
+    if (auto* data = dynamic_cast<DataControl*>(control)) data->post();
+  }
+}
+
+void FormBase::Show() {
+  reference();
+  const bool was_minimized = window_state_ == WindowState::minimized;
+  if (visible_ && !was_minimized) {
+    window_->raise();
+  } else {
+    visible_ = true;
+    if (was_minimized) window_state_ = state_before_minimized_;
+    apply_window_state();
+  }
+  if (desktop_.mdi_area != nullptr) desktop_.mdi_area->setActiveSubWindow(window_);
+}
+
+void FormBase::hide() {
+  reference();
+  visible_ = false;
+  window_->hide();
+}
+
+void FormBase::set_window_state(WindowState state) {
+  reference();
+  if (state == WindowState::minimized && window_state_ != WindowState::minimized) {
+    state_before_minimized_ = window_state_;
+  }
+  window_state_ = state;
+  // The window's own state would show a hidden window, so it waits for the show.
+  if (visible_) apply_window_state();
+}
+
+void FormBase::apply_window_state() {
+  switch (window_state_) {
+    case WindowState::normal:
+      window_->showNormal();
+      break;
+    case WindowState::minimized:
+      window_->showMinimized();
+      break;
+    case WindowState::maximized:
+      window_->showMaximized();
+      break;
+  }
+}
+
+void FormBase::set_caption(const std::string& caption) {
+  reference();
+  caption_ = caption;
+  window_->setWindowTitle(qt(caption));
+}
+
+void FormBase::Unload() {
+  if (!loaded()) return;
+  post_boxes();
+  remove();
+}
+
+void FormBase::unload_without_storing() {
+  if (loaded()) remove();
+}
+
+void FormBase::remove() {
+  std::erase(desktop_.loaded_forms, this);
+  visible_ = false;
+  window_state_ = WindowState::normal;
+  state_before_minimized_ = WindowState::normal;
+  // A form is unloaded inside its own button's handler every day: the widgets must live until that handler
+  // is back in the event loop, but nobody may find them meanwhile.
+  controls_.reset();
+  FormWindow* window = std::exchange(window_, nullptr);
+  window->disconnect();
+  window->hide();
+  if (desktop_.mdi_area != nullptr) desktop_.mdi_area->removeSubWindow(window);
+  window->setParent(nullptr);
+  window->deleteLater();
+  activate_next_form();
+}
+
+void FormBase::activate_next_form() {
+  if (desktop_.mdi_area == nullptr) return;
+  const auto windows = desktop_.mdi_area->subWindowList(QMdiArea::ActivationHistoryOrder);
+  const auto next =
+      std::find_if(windows.rbegin(), windows.rend(), [](auto* window) { return window->isVisible(); });
+  if (next != windows.rend()) desktop_.mdi_area->setActiveSubWindow(*next);
+}
+
+}  // namespace runtime::forms

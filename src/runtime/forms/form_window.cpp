@@ -1,0 +1,107 @@
+#include "runtime/forms/form_window.h"
+
+#include <QCloseEvent>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <algorithm>
+
+#include "runtime/forms/control_set.h"
+#include "runtime/forms/twips.h"
+
+namespace runtime::forms {
+
+namespace {
+
+constexpr int margin = 8;       // pixels right of and below the last control
+constexpr QSize frame(12, 34);  // what the window's frame and title take
+constexpr const char* own_policy = "own focus policy";
+
+/// The surface stands a little off the frame's edge, because many controls stand at its very left and top.
+class PaddedScrollArea : public QScrollArea {
+ public:
+  explicit PaddedScrollArea(QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setViewportMargins(margin, margin, 0, 0);
+  }
+};
+
+bool lies_under_another(const QWidget& widget) {
+  const QObjectList& siblings = widget.parentWidget()->children();
+  const auto self = siblings.indexOf(&const_cast<QWidget&>(widget));
+  return std::any_of(siblings.begin() + self + 1, siblings.end(), [&widget](QObject* object) {
+    const auto* other = qobject_cast<QWidget*>(object);
+    return other != nullptr && !other->isWindow() && !other->isHidden() &&
+           other->geometry().contains(widget.geometry());
+  });
+}
+
+/// Keeps the policy that the control was made with, and takes it away while the control is covered.
+void set_focus_by_cover(QWidget& widget) {
+  if (!widget.property(own_policy).isValid()) {
+    widget.setProperty(own_policy, static_cast<int>(widget.focusPolicy()));
+  }
+  const auto own = static_cast<Qt::FocusPolicy>(widget.property(own_policy).toInt());
+  const auto wanted = lies_under_another(widget) ? Qt::NoFocus : own;
+  if (widget.focusPolicy() == Qt::NoFocus || wanted == Qt::NoFocus) widget.setFocusPolicy(wanted);
+}
+
+}  // namespace
+
+FormWindow::FormWindow(const FormDesign& design, QWidget* parent)
+    : QMdiSubWindow(parent), scroll_(new PaddedScrollArea(this)), surface_(new QWidget) {
+  // A work form is left by its own buttons: no close box, no system menu, no key that closes it.
+  setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
+  setSystemMenu(nullptr);
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  surface_->setObjectName(QString::fromUtf8(design.name));
+  scroll_->setWidget(surface_);
+  setWidget(scroll_);
+  const QRect client = pixels({0, 0, design.client_width, design.client_height});
+  resize(client.size() + frame);
+}
+
+void FormWindow::fit(const ControlSet& controls) {
+  QSize extent(0, 0);
+  for (const Control* control : controls.all()) {
+    QWidget* widget = control->widget();
+    if (widget == nullptr || !control->visible()) continue;
+    if (widget->parentWidget() == surface_) {
+      const QRect place = widget->geometry();
+      extent = extent.expandedTo(QSize(place.right() + 1 + margin, place.bottom() + 1 + margin));
+    }
+    set_focus_by_cover(*widget);
+  }
+  surface_->setMinimumSize(extent);
+}
+
+/// A maximized child puts its icon and its window buttons, a close box among them, beside the menu.
+void FormWindow::hide_buttons_in_menu_bar() {
+  const auto* main_window = qobject_cast<QMainWindow*>(window());
+  if (main_window == nullptr) return;
+  for (const Qt::Corner corner : {Qt::TopLeftCorner, Qt::TopRightCorner}) {
+    QWidget* buttons = main_window->menuBar()->cornerWidget(corner);
+    if (buttons != nullptr) buttons->hide();
+  }
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QMdiSubWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) hide_buttons_in_menu_bar();
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QMdiSubWindow::showEvent(event);
+  hide_buttons_in_menu_bar();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  emit resized();
+}
+
+}  // namespace runtime::forms

@@ -1,0 +1,63 @@
+// List boxes, and the drive and directory lists of the directory chooser.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "runtime/forms/control.h"
+
+namespace runtime::forms {
+
+class ListBox : public Control {
+ public:
+  using Control::Control;
+  Kind kind() const override { return Kind::ListBox; }
+
+  /// The entry at a position from 0; "" where there is none.
+  std::string list(int position) const;
+  /// Sets an entry; the position behind the last one adds an entry. Fault 9 further on.
+  void set_list(int position, const std::string& entry);
+  int count() const;
+
+ protected:
+  QWidget* make_widget(QWidget* parent) override;
+};
+
+/// The mounted volumes.
+class DriveListBox : public Control {
+ public:
+  using Control::Control;
+  Kind kind() const override { return Kind::DriveListBox; }
+
+  std::string drive() const;
+  /// Chooses the volume on which the path lies; fires Change when it is another one.
+  void set_drive(const std::string& path);
+
+ protected:
+  QWidget* make_widget(QWidget* parent) override;
+};
+
+/// The directories below a path, with the path's own line of ancestors above them.
+class DirListBox : public Control {
+ public:
+  using Control::Control;
+  Kind kind() const override { return Kind::DirListBox; }
+
+  const std::string& path() const { return path_; }
+  /// Shows another directory and fires Change. Fault 76 for one that can't be read.
+  void set_path(const std::string& path);
+  /// The highlighted directory's path, or the list's own path when none is highlighted.
+  std::string highlighted() const;
+
+ protected:
+  QWidget* make_widget(QWidget* parent) override;
+  void created(const ControlDesign& design) override;
+
+ private:
+  void fill();
+
+  std::string path_;
+  std::vector<std::string> rows_;
+};
+
+}  // namespace runtime::forms

@@ -1,0 +1,139 @@
+#include "runtime/forms/text_boxes.h"
+
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include "runtime/forms/twips.h"
+#include "runtime/text/numbers.h"
+
+namespace runtime::forms {
+
+namespace {
+
+/// Where a click or a Tab enters a masked box: a caret behind the last place would refuse every digit.
+class MaskedLineEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason) selectAll();
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QLineEdit::mouseReleaseEvent(event);
+    const auto digits = text().size();
+    if (!hasSelectedText() && cursorPosition() > digits) setCursorPosition(static_cast<int>(digits));
+  }
+};
+
+/// A disabled box still shows a path that must be read, so its text is dimmed less than the desktop would.
+void keep_readable_when_disabled(QWidget& widget) {
+  QPalette palette = widget.palette();
+  QColor text = palette.color(QPalette::Active, QPalette::Text);
+  text.setAlphaF(0.75F);
+  palette.setColor(QPalette::Disabled, QPalette::Text, text);
+  widget.setPalette(palette);
+}
+
+}  // namespace
+
+QWidget* TextBox::make_widget(QWidget* parent) {
+  auto* edit = new QLineEdit(parent);
+  keep_readable_when_disabled(*edit);
+  QObject::connect(edit, &QLineEdit::textEdited, edit, [this] {
+    changed = true;
+    fire_from_person(Event::Change);
+  });
+  return edit;
+}
+
+QLineEdit& TextBox::edit() const {
+  return *qobject_cast<QLineEdit*>(widget());
+}
+
+std::string TextBox::text() const {
+  return edit().text().toStdString();
+}
+
+void TextBox::set_text(const std::string& text) {
+  if (text == this->text()) return;
+  {
+    const QSignalBlocker blocker(&edit());
+    edit().setText(qt(text));
+  }
+  changed = true;
+  fire(Event::Change);
+}
+
+bool TextBox::locked() const {
+  return edit().isReadOnly();
+}
+void TextBox::set_locked(bool locked) {
+  edit().setReadOnly(locked);
+}
+bool TextBox::bold() const {
+  return edit().font().bold();
+}
+
+void TextBox::set_bold(bool bold) {
+  QFont font = edit().font();
+  font.setBold(bold);
+  edit().setFont(font);
+}
+
+void TextBox::show_value(const Value& value) {
+  const QSignalBlocker blocker(&edit());
+  edit().setText(qt(text::joined(value)));
+  edit().setToolTip(edit().text());  // a path may be longer than its box
+  changed = false;
+}
+
+void TextBox::show_caption(const std::string& caption) {
+  const QSignalBlocker blocker(&edit());
+  edit().setText(qt(caption));
+}
+
+QWidget* MaskEdBox::make_widget(QWidget* parent) {
+  auto* edit = new MaskedLineEdit(parent);
+  QObject::connect(edit, &QLineEdit::textEdited, edit, [this] {
+    changed = true;
+    fire_from_person(Event::Change);
+  });
+  return edit;
+}
+
+QLineEdit& MaskEdBox::edit() const {
+  return *qobject_cast<QLineEdit*>(widget());
+}
+
+void MaskEdBox::show_caption(const std::string& mask) {
+  QString pattern = qt(mask);
+  pattern.replace(u'#', u'0');  // a place that takes a digit or stays empty, never a sign
+  edit().setInputMask(pattern + QStringLiteral(";_"));
+}
+
+std::string MaskEdBox::text() const {
+  return edit().displayText().toStdString();
+}
+
+void MaskEdBox::show_value(const Value& value) {
+  const QSignalBlocker blocker(&edit());
+  edit().setText(qt(text::joined(value)));
+  edit().setCursorPosition(0);
+  changed = false;
+}
+
+Value MaskEdBox::held_value() const {
+  const std::string shown_text = text();
+  if (shown_text.find_first_of("0123456789") == std::string::npos) return {};
+  return static_cast<std::int64_t>(text::val(shown_text));
+}
+
+void MaskEdBox::Refresh() {
+  edit().update();
+}
+
+}  // namespace runtime::forms
