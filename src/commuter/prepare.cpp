@@ -1,0 +1,240 @@
+// The commuter run up to its question: checks, model files, summary.
+#include "analysis/run_state.h"
+#include "commuter/model_files.h"
+#include "commuter/run.h"
+#include "runtime/text/numbers.h"
+
+namespace commuter {
+
+namespace {
+
+using runtime::forms::exclamation;
+using runtime::forms::reply_no;
+using runtime::forms::yes_no;
+using runtime::text::joined;
+
+End tell(Run& run, const std::string& message, End end, int style = runtime::forms::ok_only) {
+  run.program.desktop.MsgBox(message, style);
+  return end;
+}
+
+bool file_found(Run& run, const std::string& path) {
+  return !run.program.desktop.files.dir(path).empty();
+}
+
+End check_choices(Run& run) {
+  Program& program = run.program;
+  run.ZoneCount = analysis::zone_count(program);
+  if (run.ZoneCount == 0) {
+    program.desktop.MsgBox(analysis::no_zones_message);
+    program.form1.Unload();
+    return End::reset;
+  }
+  run.OutputBase = analysis::output_base(program.form3.OutputFile);
+  if (program.form3.OutputFile.empty()) {
+    program.form1.Unload();
+    program.desktop.MsgBox("No Output File Specified!");
+    program.form3.set_window_state(runtime::forms::WindowState::maximized);
+    return End::retry;
+  }
+  if (program.form3.PickCount == 0)
+    return tell(run, "Must have at least one occupation input file!", End::retry);
+  return End::go_on;
+}
+
+/// The two fields of one case from the first row of the speeds table.
+void write_variation_file(Run& run, const char* name, int speed_field) {
+  auto& speeds = run.program.form1->Data2;
+  speeds.MoveFirst();
+  run.program.desktop.files.write_file(path_of(run, name), [&](std::ostream& stream) {
+    write_variation(stream, speeds.field(speed_field), speeds.field(speed_field + 1));
+  });
+}
+
+End choose_reliability(Run& run) {
+  auto& form3 = run.program.form3;
+  if (form3->Option4(0).value()) {
+    run.ReliabilityMode = "DB";
+    write_base_variation(run);
+  } else if (form3->Option4(1).value()) {
+    run.ReliabilityMode = "FILE";
+  } else if (form3->Option4(2).value()) {
+    run.ReliabilityMode = "NONE";
+  } else {
+    return tell(run, "Please select an option for reliability analysis!", End::retry);
+  }
+  return End::go_on;
+}
+
+/// The mode word is in capitals, so the branch is never taken: a "FILE" run passes on the word alone.
+End bring_reliability_file(Run& run) {
+  if (run.ReliabilityMode != "file") return End::go_on;
+  auto& desktop = run.program.desktop;
+  const std::string file = joined(run.program.form3->Data1(0).field("relfile"));
+  if (!file_found(run, file)) {
+    run.PendingMessage = std::to_string(desktop.MsgBox("file " + file + " not found!", exclamation));
+    return End::reset;
+  }
+  desktop.files.copy(file, path_of(run, "/var.txt"));
+  return End::go_on;
+}
+
+End check_time_files(Run& run) {
+  for (int i = 0; i <= 2; ++i) {
+    const std::string file = joined(run.program.form3->Data1(1).field(i));
+    if (!file_found(run, file)) {
+      return tell(run, "file " + file + " not found. Please respecify file. ", End::bail, exclamation);
+    }
+  }
+  return End::go_on;
+}
+
+void copy_time_files(Run& run) {
+  auto& paths = run.program.form3->Data1(1);
+  paths.MoveFirst();
+  const auto& files = run.program.desktop.files;
+  files.copy(joined(paths.field("distance")), path_of(run, "/Dist.txt"));
+  files.copy(joined(paths.field("base_time")), path_of(run, "/base_time.txt"));
+  files.copy(joined(paths.field("improvement_time")), path_of(run, "/imp_time.txt"));
+  run.program.form1.Unload();
+}
+
+void write_occupation_values(Run& run) {
+  auto& form3 = run.program.form3;
+  auto& files = run.program.desktop.files;
+  runtime::engine::Recordset occupation;
+  for (int i = 1; i <= form3.PickCount; ++i) {
+    const std::string& code = form3.PickCode(i);
+    occupation = run.db.open_recordset("select * from Commuter where index =" + code + " ");
+    occupation.move_first();
+    files.write_file(path_of(run, "/sig" + code + ".txt"),
+                     [&](std::ostream& stream) { write_one_value(stream, occupation.field("sigma")); });
+    files.write_file(path_of(run, "/wage" + code + ".txt"),
+                     [&](std::ostream& stream) { write_one_value(stream, occupation.field("wage")); });
+  }
+}
+
+/// The three parameter files and the numbers under which they are open.
+constexpr int outpar = 1;
+constexpr int ccpar = 2;
+constexpr int ccpar2 = 3;
+constexpr int parameter_files[] = {outpar, ccpar, ccpar2};
+
+void begin_parameter_files(Run& run) {
+  auto& files = run.program.desktop.files;
+  files.open_for_output(outpar, path_of(run, "/outpar.txt"));
+  files.open_for_output(ccpar, path_of(run, "/ccpar.txt"));
+  files.open_for_output(ccpar2, path_of(run, "/ccpar2.txt"));
+  write_output_head(files.out(outpar), run.OutputBase, run.ZoneCount);
+  write_cost_head(files.out(ccpar), run.ZoneCount, run.ReliabilityMode, base_case);
+  write_cost_head(files.out(ccpar2), run.ZoneCount, run.ReliabilityMode, improvement_case);
+}
+
+End bring_district_file(Run& run) {
+  Program& program = run.program;
+  if (program.form3->Check1.value() != 1) return End::go_on;
+  const std::string& file = program.form3.DistrictFile;
+  if (file.empty() || !file_found(run, file)) {
+    return tell(run, "File " + file + " not Found or not Specified!", End::retry);
+  }
+  program.desktop.files.copy(file, path_of(run, "/district.txt"));
+  run.DistrictCount = analysis::district_count(program);
+  if (run.DistrictCount == 0) {
+    return tell(run, "Please specify number of Districts under - Prepare Inputs - Menu Item! ", End::reset);
+  }
+  if (run.DistrictCount > run.ZoneCount) {
+    program.form1.Unload();
+    return tell(run, "Number of Districts greater than zones!", End::reset);
+  }
+  return End::go_on;
+}
+
+void write_district_line(Run& run) {
+  auto& out = run.program.desktop.files.out(outpar);
+  if (run.program.form3->Check1.value() == 1) {
+    write_districts(out, run.DistrictCount);
+  } else {
+    write_no_districts(out);
+    run.DistrictCount = 0;
+  }
+}
+
+End write_picks(Run& run) {
+  auto& form3 = run.program.form3;
+  auto& files = run.program.desktop.files;
+  for (const int number : parameter_files) write_pick_count(files.out(number), form3.PickCount);
+  for (int i = 1; i <= form3.PickCount; ++i) {
+    const std::string& path = form3.PickPath(i);
+    if (!file_found(run, path)) return tell(run, "File " + path + " not Found!", End::reset);
+    files.copy(path, path_of(run, "/popemp" + form3.PickCode(i) + ".txt"));
+    for (const int number : parameter_files) write_pick(files.out(number), form3.PickCode(i));
+  }
+  return End::go_on;
+}
+
+void finish_parameter_files(Run& run) {
+  auto& files = run.program.desktop.files;
+  for (const int number : parameter_files) files.close(number);
+  auto& shares = run.program.form1->Data3;
+  std::vector<Value> fields;
+  for (int i = 0; i < shares.field_count(); ++i) fields.push_back(shares.field(i));
+  files.write_file(path_of(run, "/costpar.txt"),
+                   [&](std::ostream& stream) { write_cost_parameters(stream, fields); });
+}
+
+void build_summary(Run& run) {
+  auto& form3 = run.program.form3;
+  run.RunSummary = "The Number of Zones= " + std::to_string(run.ZoneCount) + "\r" +
+                   "The Number of Districts= " + std::to_string(run.DistrictCount) + "\r" +
+                   "The occupations are";
+  for (int i = 1; i <= form3.PickCount; ++i) {
+    const auto code = runtime::text::whole_16(runtime::text::val(form3.PickCode(i)));
+    run.RunSummary += " " + form3.PickLabel(code) + "\r";
+  }
+}
+
+End ask(Run& run) {
+  Program& program = run.program;
+  build_summary(run);
+  program.form1.Unload();
+  program.form2.unload_without_storing();
+  program.form3.set_window_state(runtime::forms::WindowState::maximized);
+  run.RunSummary += "Do you wish to continue?";
+  return program.desktop.MsgBox(run.RunSummary, yes_no) == reply_no ? End::retry : End::go_on;
+}
+
+/// Runs the steps in order up to the first that ends the run.
+template <typename... Steps>
+End in_order(Run& run, Steps... steps) {
+  End end = End::go_on;
+  (void)((end = steps(run), end == End::go_on) && ...);
+  return end;
+}
+
+}  // namespace
+
+void write_base_variation(Run& run) {
+  write_variation_file(run, "/base_var.txt", 0);
+}
+void write_improvement_variation(Run& run) {
+  write_variation_file(run, "/imp_var.txt", 2);
+}
+
+End prepare(Run& run) {
+  if (const End end =
+          in_order(run, check_choices, choose_reliability, bring_reliability_file, check_time_files);
+      end != End::go_on) {
+    return end;
+  }
+  copy_time_files(run);
+  run.db = run.program.desktop.workspace.open_database(run.program.desktop.database_name);
+  write_occupation_values(run);
+  begin_parameter_files(run);
+  if (const End end = bring_district_file(run); end != End::go_on) return end;
+  write_district_line(run);
+  if (const End end = write_picks(run); end != End::go_on) return end;
+  finish_parameter_files(run);
+  return ask(run);
+}
+
+}  // namespace commuter

@@ -1,0 +1,54 @@
+// The commuter run: what its driver and its chain of model programs share.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/program.h"
+#include "runtime/engine/database.h"
+
+namespace commuter {
+
+using forms::Program;
+
+/// The model directory below the application directory.
+inline constexpr const char* directory = "commuter";
+
+/// How a stretch of the handler ended.
+enum class End {
+  go_on,  // no end yet: the next step follows
+  retry,  // the form stays with its picks
+  reset,  // the picks are forgotten, the forms go, the workflow starts anew
+  bail,   // the forms go, the picks stay counted
+};
+
+/// The locals of one press of the button.
+struct Run {
+  Program& program;
+  std::int16_t ZoneCount = 0;
+  std::int16_t DistrictCount = 0;
+  std::string ReliabilityMode = {};
+  std::string OutputBase = {};
+  std::string RunSummary = {};
+  std::string PendingMessage = {};
+  runtime::engine::Database db = {};
+};
+
+/// The path of a model file; `name` brings its own leading "/".
+std::string path_of(const Run& run, const std::string& name);
+
+/// Write the speed and highway share of a case from the first row of the speeds table.
+void write_base_variation(Run& run);
+void write_improvement_variation(Run& run);
+
+/// Checks what was chosen, writes the model files and asks whether to go on.
+End prepare(Run& run);
+
+/// Runs the three model programs and clears their directory. Faults up to the clean-up belong to the trap.
+End run_chain(Run& run);
+
+/// The ways out.
+void retry_end(Program& program);
+void reset_end(Run& run);
+
+}  // namespace commuter
