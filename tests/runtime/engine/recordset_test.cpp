@@ -268,6 +268,17 @@ TEST_F(Editing, without_having_begun_faults) {
   EXPECT_EQ(fault_of([&] { rows.cancel_update(); }), 3020);
 }
 
+TEST_F(Editing, keeps_the_current_record_though_it_no_longer_meets_the_condition) {
+  auto rows = database.open_recordset("select * from Commuter where index < 2");
+  rows.edit();
+  rows.set("index", std::int64_t{50});
+  rows.update();
+  EXPECT_EQ(rows.field("index"), Value(std::int64_t{50}));
+  rows.move_next();
+  EXPECT_EQ(rest_of(rows), "1 11.35 120.64 Transport|");
+  EXPECT_EQ(rows.record_count(), 1);
+}
+
 TEST_F(Editing, of_a_row_that_is_gone_faults) {
   auto rows = database.open_recordset("Commuter");
   database.execute("DELETE * from Commuter");

@@ -165,17 +165,33 @@ TEST_F(OpenFile, is_readable_as_a_copy_of_the_one_file) {
   EXPECT_EQ(testing::ask(copy, "SELECT sum(sigma) FROM Commuter"), "12.0");
 }
 
-using OpenFileDeathTest = OpenDatabase;
-
-TEST_F(OpenFileDeathTest, that_is_read_only_is_told_at_the_first_write) {
-  fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-  const auto read_then_write = [this] {
+class OpenFileDeathTest : public OpenDatabase {
+ protected:
+  /// Ends the process with 0 when the file can be read and the first write is refused as it should be.
+  void read_then_write_as_an_ordinary_user() {
     if (geteuid() == 0 && seteuid(65534) != 0) _exit(1);  // modes are nothing to the superuser
     auto database = workspace.open_database(file.string());
     if (database.open_recordset("Commuter").record_count() != 3) _exit(2);
-    _exit(fault_of([&] { database.execute("UPDATE Commuter set sigma = 1"); }) == 3027 ? 0 : 3);
-  };
-  EXPECT_EXIT(read_then_write(), ::testing::ExitedWithCode(0), "");
+    const auto write = [&] {
+      database.execute("UPDATE Commuter set sigma = 1");
+      workspace.handler_ended();
+    };
+    _exit(fault_of(write) == 3027 ? 0 : 3);
+  }
+
+  static constexpr auto all_write = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+};
+
+TEST_F(OpenFileDeathTest, that_is_read_only_is_told_at_the_first_write) {
+  fs::permissions(file, all_write, fs::perm_options::remove);
+  EXPECT_EXIT(read_then_write_as_an_ordinary_user(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(OpenFileDeathTest, in_a_read_only_directory_is_told_at_the_first_write) {
+  fs::permissions(file, all_write, fs::perm_options::add);
+  fs::permissions(directory, all_write, fs::perm_options::remove);
+  EXPECT_EXIT(read_then_write_as_an_ordinary_user(), ::testing::ExitedWithCode(0), "");
+  fs::permissions(directory, fs::perms::owner_all);
 }
 
 TEST_F(OpenFileDeathTest, keeps_what_was_durable_when_its_process_is_killed_between_writes) {
