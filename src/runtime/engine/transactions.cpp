@@ -1,5 +1,6 @@
 #include "runtime/engine/transactions.h"
 
+#include <algorithm>
 #include <string>
 
 #include "runtime/engine/connection.h"
@@ -80,7 +81,9 @@ void Transactions::handler_ended() {
 
 void Transactions::before_program() {
   end_reading();
-  if (live_.empty()) make_durable();
+  // A level in which nothing was written yet guards none of what waits.
+  const bool is_guarded = std::find(live_.begin(), live_.end(), true) != live_.end();
+  if (!is_guarded) make_durable();
 }
 
 void Transactions::make_durable() {

@@ -52,7 +52,8 @@ class Workspace {
 
   /// The outermost handler ended: makes durable all that it wrote; its open levels become old ones.
   void handler_ended();
-  /// An external program starts: makes durable what was written, unless a level of this handler stands.
+  /// An external program starts: makes durable what was written, unless a level of this handler holds
+  /// some of it.
   void before_program();
 
   /// Whether `file` is the database file or its journal, while that is open.

@@ -78,6 +78,16 @@ TEST_F(Handler, before_a_program_makes_durable_what_no_level_guards) {
   EXPECT_EQ(seen(), "1");
 }
 
+TEST_F(Handler, before_a_program_makes_durable_what_was_written_before_a_level_began) {
+  write(1);
+  workspace.begin_trans();
+  workspace.before_program();
+  EXPECT_EQ(durable(), "1.0");
+  write(2);
+  workspace.rollback();
+  EXPECT_EQ(seen(), "1");
+}
+
 TEST_F(Handler, before_a_program_is_not_held_back_by_an_old_level) {
   workspace.begin_trans();
   workspace.handler_ended();
