@@ -251,7 +251,10 @@ TEST_F(Expression, nested_deeply_is_evaluated_or_refused_but_never_lost) {
   EXPECT_EQ(value_of(nested(14, "Abs(")), "1 whole");
   EXPECT_EQ(value_of(nested(100000, "(1 + ")), "fault 3075");
   EXPECT_EQ(value_of(nested(100000, "Abs(")), "fault 3075");
-  EXPECT_EQ(value_of(std::string(100000, '-') + "1"), "fault 3075");
+  for (const char sign : {'-', '+'}) EXPECT_EQ(value_of(std::string(100000, sign) + "1"), "fault 3075");
+  std::string nots;
+  for (int i = 0; i < 100000; ++i) nots += "not ";
+  EXPECT_EQ(value_of(nots + "1"), "fault 3075");
 }
 
 TEST(ExpressionFaults, tell_an_unknown_name) {

@@ -133,9 +133,7 @@ std::optional<ExpressionParser::Piece> ExpressionParser::test(const Piece& opera
 ExpressionParser::Piece ExpressionParser::compared(std::string_view symbol, const Piece& left,
                                                    const Piece& right) const {
   check_kinds(left, right);
-  std::string sql = "(" + collated(left) + " ";
-  sql.append(symbol).append(" ").append(right.sql).append(")");
-  return {std::move(sql), Kind::Number, true};
+  return {"(" + collated(left) + " " + std::string(symbol) + " " + right.sql + ")", Kind::Number, true};
 }
 
 ExpressionParser::Piece ExpressionParser::like(const Piece& left) {
@@ -181,11 +179,16 @@ std::string ExpressionParser::collated(const Piece& piece) {
 
 // The minus binds looser than a power: -2^2 is -4.
 ExpressionParser::Piece ExpressionParser::signed_power() {
-  if (tokens_.take_symbol("+")) return as_value(signed_power());
-  if (!tokens_.take_symbol("-")) return power();
+  const bool negative = tokens_.is_symbol("-");
+  if (!negative && !tokens_.is_symbol("+")) return power();
+  tokens_.next();
   if (++depth_ > deepest_nesting) tokens_.fault();
-  const Piece operand = as_value(signed_power());
+  Piece operand = as_value(signed_power());
   --depth_;
+  return negative ? negated(operand) : operand;
+}
+
+ExpressionParser::Piece ExpressionParser::negated(const Piece& operand) {
   return {"q_negate(" + operand.sql + ")", Kind::Number};
 }
 
@@ -193,9 +196,9 @@ ExpressionParser::Piece ExpressionParser::power() {
   Piece result = primary();
   while (tokens_.take_symbol("^")) {
     const bool negative = tokens_.take_symbol("-");
-    std::string exponent = as_value(primary()).sql;
-    if (negative) exponent = "q_negate(" + exponent + ")";
-    result = {"q_calc('^', " + as_value(std::move(result)).sql + ", " + exponent + ")", Kind::Number};
+    Piece exponent = as_value(primary());
+    if (negative) exponent = negated(exponent);
+    result = {"q_calc('^', " + as_value(std::move(result)).sql + ", " + exponent.sql + ")", Kind::Number};
   }
   return result;
 }

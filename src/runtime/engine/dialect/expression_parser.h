@@ -39,6 +39,7 @@ class ExpressionParser {
   Piece comparison();
   Piece operation(std::size_t level);
   Piece signed_power();
+  static Piece negated(const Piece& operand);
   Piece power();
   Piece primary();
   Piece number();
