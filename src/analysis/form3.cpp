@@ -32,8 +32,8 @@ bool is_commuter_page(Program& program) {
 }
 
 void close_files(Program& program) {
-  program.desktop.files.close(1);
-  program.desktop.files.close(2);
+  program.desktop.files.Close(1);
+  program.desktop.files.Close(2);
 }
 
 }  // namespace

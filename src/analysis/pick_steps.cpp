@@ -66,7 +66,7 @@ void show(CommonDialog& dialog, Mode mode, const std::string& title, const std::
 }
 
 bool file_exists(Program& program, const std::string& path, const std::string& message) {
-  if (!program.desktop.files.dir(path).empty()) return true;
+  if (!program.desktop.files.Dir(path).empty()) return true;
   program.desktop.MsgBox(message);
   return false;
 }
@@ -74,7 +74,7 @@ bool file_exists(Program& program, const std::string& path, const std::string& m
 bool directory_exists(Program& program, const std::string& path) {
   const std::string directory(runtime::files::directory_of(path).value_or(""));
   const auto& files = program.desktop.files;
-  if (!files.dir(directory, runtime::files::Files::directory_attribute).empty()) return true;
+  if (!files.Dir(directory, runtime::files::Files::directory_attribute).empty()) return true;
   program.desktop.MsgBox("Directory " + directory + " does not exist!");
   return false;
 }

@@ -126,7 +126,7 @@ void Command4_Click(Program& program, int index) {
 
 void Command5_Click(Program& program) {
   shell::GoToAppDirectory(program);
-  program.desktop.workspace.begin_trans();
+  program.desktop.workspace.BeginTrans();
   auto& dialog = program.form3->cdbox1;
   auto& box = program.form3->Text2;
   dialog.cancel_error = true;
@@ -164,7 +164,7 @@ void Command7_Click(Program& program) {
   picks::trapped(program, box, [&] {
     picks::start_in_directory_of(dialog, box.text());
     picks::propose_name_of(dialog, box.text());
-    program.desktop.workspace.begin_trans();
+    program.desktop.workspace.BeginTrans();
     picks::show(dialog, Mode::open, "Select district file name", picks::text_files_filter);
     if (!accept_input_file(program, box, dialog, program.form3->Command7)) return;
     program.form3.DistrictFile = dialog.file_name;

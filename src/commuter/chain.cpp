@@ -21,7 +21,7 @@ constexpr ModelProgram improvement_run{"CC.EXE", "second"};
 constexpr ModelProgram report_run{"OUTPUT1.EXE", "third"};
 
 void change_to_model_directory(Run& run) {
-  run.program.desktop.files.change_directory(directory);
+  run.program.desktop.files.ChDir(directory);
 }
 
 End run_program(Run& run, const ModelProgram& model) {
@@ -45,8 +45,8 @@ void swap_to_improvement(Run& run) {
   shell::GoToAppDirectory(run.program);
   if (run.program.form3->Option4(0).value()) write_improvement_variation(run);
   const auto& files = run.program.desktop.files;
-  files.kill(path_of(run, "/ccpar.txt"));
-  files.rename(path_of(run, "/ccpar2.txt"), path_of(run, "/ccpar.txt"));
+  files.Kill(path_of(run, "/ccpar.txt"));
+  files.Name(path_of(run, "/ccpar2.txt"), path_of(run, "/ccpar.txt"));
 }
 
 /// The first holds a literal ampersand, so that a file "var.txt" outlives the run; two find nothing that a
@@ -59,7 +59,7 @@ constexpr std::array clean_up_patterns{
 
 void clean_up(Run& run) {
   for (const char* pattern : clean_up_patterns) {
-    ignoring_faults([&] { run.program.desktop.files.kill(path_of(run, pattern)); });
+    ignoring_faults([&] { run.program.desktop.files.Kill(path_of(run, pattern)); });
   }
 }
 
@@ -71,17 +71,17 @@ End run_chain(Run& run) {
   change_to_model_directory(run);
   if (run_program(run, base_run) != End::go_on) return End::reset;
   if (check_verdict(run) != End::go_on) return End::reset;
-  files.close(1);
+  files.Close(1);
   swap_to_improvement(run);
   change_to_model_directory(run);
   if (run_program(run, improvement_run) != End::go_on) return End::reset;
   if (check_verdict(run) != End::go_on) return End::reset;
-  files.close(1);
+  files.Close(1);
   if (run_program(run, report_run) != End::go_on) return End::reset;
   program.form1.Unload();
   if (check_verdict(run) != End::go_on) return End::reset;
   program.desktop.MsgBox("Analysis Completed");
-  files.close(1);
+  files.Close(1);
   shell::GoToAppDirectory(program);
   clean_up(run);
   return End::go_on;

@@ -15,8 +15,8 @@ std::string path_of(const Run& run, const std::string& name) {
 
 void retry_end(Program& program) {
   // Number 3 is not known here: what stands open under it stays open.
-  program.desktop.files.close(1);
-  program.desktop.files.close(2);
+  program.desktop.files.Close(1);
+  program.desktop.files.Close(2);
   shell::BeginFileTransaction(program);
   program.form3.Show();
   program.form3.set_window_state(WindowState::maximized);
@@ -28,10 +28,10 @@ void reset_end(Run& run) {
   program.form3.Unload();
   program.form2.unload_without_storing();
   program.form1.Unload();
-  program.desktop.files.close(1);
-  program.desktop.files.close(2);
+  program.desktop.files.Close(1);
+  program.desktop.files.Close(2);
   if (!run.PendingMessage.empty()) program.desktop.MsgBox(run.PendingMessage);
-  run.db.close();
+  run.db.Close();
   shell::EnableMenus(program);
   analysis::reopen_time_and_distance(program);
   program.mdiform1.Show();

@@ -19,7 +19,7 @@ End tell(Run& run, const std::string& message, End end, int style = runtime::for
 }
 
 bool file_found(Run& run, const std::string& path) {
-  return !run.program.desktop.files.dir(path).empty();
+  return !run.program.desktop.files.Dir(path).empty();
 }
 
 End check_choices(Run& run) {
@@ -75,7 +75,7 @@ End bring_reliability_file(Run& run) {
     run.PendingMessage = std::to_string(desktop.MsgBox("file " + file + " not found!", exclamation));
     return End::reset;
   }
-  desktop.files.copy(file, path_of(run, "/var.txt"));
+  desktop.files.FileCopy(file, path_of(run, "/var.txt"));
   return End::go_on;
 }
 
@@ -93,9 +93,9 @@ void copy_time_files(Run& run) {
   auto& paths = run.program.form3->Data1(1);
   paths.MoveFirst();
   const auto& files = run.program.desktop.files;
-  files.copy(joined(paths.field("distance")), path_of(run, "/Dist.txt"));
-  files.copy(joined(paths.field("base_time")), path_of(run, "/base_time.txt"));
-  files.copy(joined(paths.field("improvement_time")), path_of(run, "/imp_time.txt"));
+  files.FileCopy(joined(paths.field("distance")), path_of(run, "/Dist.txt"));
+  files.FileCopy(joined(paths.field("base_time")), path_of(run, "/base_time.txt"));
+  files.FileCopy(joined(paths.field("improvement_time")), path_of(run, "/imp_time.txt"));
   run.program.form1.Unload();
 }
 
@@ -105,8 +105,8 @@ void write_occupation_values(Run& run) {
   runtime::engine::Recordset occupation;
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& code = form3.PickCode(i);
-    occupation = run.db.open_recordset("select * from Commuter where index =" + code + " ");
-    occupation.move_first();
+    occupation = run.db.OpenRecordset("select * from Commuter where index =" + code + " ");
+    occupation.MoveFirst();
     files.write_file(path_of(run, "/sig" + code + ".txt"),
                      [&](std::ostream& stream) { write_one_value(stream, occupation.field("sigma")); });
     files.write_file(path_of(run, "/wage" + code + ".txt"),
@@ -137,7 +137,7 @@ End bring_district_file(Run& run) {
   if (file.empty() || !file_found(run, file)) {
     return tell(run, "File " + file + " not Found or not Specified!", End::retry);
   }
-  program.desktop.files.copy(file, path_of(run, "/district.txt"));
+  program.desktop.files.FileCopy(file, path_of(run, "/district.txt"));
   run.DistrictCount = analysis::district_count(program);
   if (run.DistrictCount == 0) {
     return tell(run, "Please specify number of Districts under - Prepare Inputs - Menu Item! ", End::reset);
@@ -166,7 +166,7 @@ End write_picks(Run& run) {
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& path = form3.PickPath(i);
     if (!file_found(run, path)) return tell(run, "File " + path + " not Found!", End::reset);
-    files.copy(path, path_of(run, "/popemp" + form3.PickCode(i) + ".txt"));
+    files.FileCopy(path, path_of(run, "/popemp" + form3.PickCode(i) + ".txt"));
     for (const int number : parameter_files) write_pick(files.out(number), form3.PickCode(i));
   }
   return End::go_on;
@@ -174,7 +174,7 @@ End write_picks(Run& run) {
 
 void finish_parameter_files(Run& run) {
   auto& files = run.program.desktop.files;
-  for (const int number : parameter_files) files.close(number);
+  for (const int number : parameter_files) files.Close(number);
   auto& shares = run.program.form1->Data3;
   std::vector<Value> fields;
   for (int i = 0; i < shares.field_count(); ++i) fields.push_back(shares.field(i));
@@ -227,7 +227,7 @@ End prepare(Run& run) {
     return end;
   }
   copy_time_files(run);
-  run.db = run.program.desktop.workspace.open_database(run.program.desktop.database_name);
+  run.db = run.program.desktop.workspace.OpenDatabase(run.program.desktop.database_name);
   write_occupation_values(run);
   begin_parameter_files(run);
   if (const End end = bring_district_file(run); end != End::go_on) return end;

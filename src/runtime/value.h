@@ -10,6 +10,8 @@ namespace runtime {
 /// Null, a whole number, a single- or double-precision number, or a text in UTF-8.
 using Value = std::variant<std::monostate, std::int64_t, float, double, std::string>;
 
-inline bool is_null(const Value& value) { return std::holds_alternative<std::monostate>(value); }
+inline bool is_null(const Value& value) {
+  return std::holds_alternative<std::monostate>(value);
+}
 
 }  // namespace runtime

@@ -10,7 +10,7 @@ int RunAndWait(Program& program, const std::string& command) {
 }
 
 void GoToAppDirectory(Program& program) {
-  ignoring_faults([&] { program.desktop.files.change_directory(program.desktop.app_path); });
+  ignoring_faults([&] { program.desktop.files.ChDir(program.desktop.app_path); });
 }
 
 void EnableMenus(Program& program) {
@@ -36,15 +36,15 @@ constexpr std::size_t longest_extension = 3;
 
 void BeginFileTransaction(Program& program) {
   program.SharedWorkspace = &program.desktop.workspace;
-  program.SharedWorkspace->begin_trans();
+  program.SharedWorkspace->BeginTrans();
 }
 
 void CommitFileTransaction(Program& program) {
-  shared_workspace(program).commit_trans();
+  shared_workspace(program).CommitTrans();
 }
 
 void RollbackFileTransaction(Program& program) {
-  shared_workspace(program).rollback();
+  shared_workspace(program).Rollback();
 }
 
 bool CheckFileName(Program& program, std::string& name) {

@@ -23,9 +23,9 @@ class Installed : public ::testing::Test {
 
   /// A row a line, fields between blanks, "-" for Null.
   std::string rows_of(std::string_view table) {
-    auto rows = database_.open_recordset(table);
+    auto rows = database_.OpenRecordset(table);
     std::string text;
-    for (; !rows.eof(); rows.move_next()) {
+    for (; !rows.eof(); rows.MoveNext()) {
       for (int i = 0; i < rows.field_count(); ++i) {
         const auto value = rows.field(i);
         text += (i == 0 ? "" : " ") + (runtime::is_null(value) ? "-" : runtime::text::joined(value));
@@ -36,21 +36,21 @@ class Installed : public ::testing::Test {
   }
 
   std::string names_of(std::string_view table) {
-    const auto rows = database_.open_recordset(table);
+    const auto rows = database_.OpenRecordset(table);
     std::string text;
     for (int i = 0; i < rows.field_count(); ++i) text += (i == 0 ? "" : ", ") + rows.field_name(i);
     return text;
   }
 
   std::string text_of(std::string_view table, std::string_view field) {
-    return std::get<std::string>(database_.open_recordset(table).field(field));
+    return std::get<std::string>(database_.OpenRecordset(table).field(field));
   }
 
  private:
   runtime::engine::Workspace workspace_;
 
  protected:
-  runtime::engine::Database database_ = workspace_.open_database(PROJECT_DATABASE);
+  runtime::engine::Database database_ = workspace_.OpenDatabase(PROJECT_DATABASE);
 };
 
 TEST_F(Installed, holds_the_size_of_the_sample_study) {
@@ -92,7 +92,7 @@ TEST_F(Installed, holds_the_parameters_of_the_commercial_model_in_single_precisi
   EXPECT_EQ(rows_of(commercial::table),
             "1 14.51 16765 25.07 430 1 90\n2 4.62 5469 25.04 50 1 95\n"
             "4 7.44 34682 25.66 50 1 95\n9 10.61 135 0 50 1 95\n");
-  const auto rows = database_.open_recordset(commercial::table);
+  const auto rows = database_.OpenRecordset(commercial::table);
   for (int i = 1; i < rows.field_count(); ++i)
     EXPECT_TRUE(std::holds_alternative<float>(rows.field(i))) << rows.field_name(i);
 }
@@ -104,9 +104,9 @@ TEST_F(Installed, holds_speeds_and_shares_of_both_cases) {
 }
 
 TEST_F(Installed, holds_plausible_factors_of_the_conversion_to_trucks) {
-  auto rows = database_.open_recordset(tontotruck_table);
-  EXPECT_EQ(rows.record_count(), 8);
-  for (; !rows.eof(); rows.move_next()) {
+  auto rows = database_.OpenRecordset(tontotruck_table);
+  EXPECT_EQ(rows.RecordCount(), 8);
+  for (; !rows.eof(); rows.MoveNext()) {
     EXPECT_GT(std::get<double>(rows.field("TonsPerTruck")), 1);
     EXPECT_LT(std::get<double>(rows.field("TonsPerTruck")), 40);
     EXPECT_GT(std::get<double>(rows.field("TruckShare")), 0);

@@ -16,7 +16,9 @@ TEST(Fault, puts_the_detail_into_the_words) {
   EXPECT_STREQ(Fault(340, "5").what(), "Control array element '5' does not exist");
 }
 
-TEST(Fault, leaves_no_dangling_colon_without_a_detail) { EXPECT_STREQ(Fault(53).what(), "File not found"); }
+TEST(Fault, leaves_no_dangling_colon_without_a_detail) {
+  EXPECT_STREQ(Fault(53).what(), "File not found");
+}
 
 TEST(Fault, an_unknown_number_has_neutral_words) {
   EXPECT_STREQ(Fault(4711).what(), "Application-defined or object-defined error");

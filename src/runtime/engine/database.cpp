@@ -15,14 +15,14 @@ const std::shared_ptr<Connection>& Database::connection() const {
   return connection_;
 }
 
-void Database::execute(std::string_view sql) {
+void Database::Execute(std::string_view sql) {
   auto& open = *connection();
   const auto statement = dialect::statement_to_sql(sql);
   open.before_write();
   open.run(statement);
 }
 
-void Database::execute_on(std::string_view table, std::string_view sql) {
+void Database::ExecuteOn(std::string_view table, std::string_view sql) {
   auto& open = *connection();
   const auto statement = dialect::statement_to_sql(sql);
   open.before_write();
@@ -31,11 +31,11 @@ void Database::execute_on(std::string_view table, std::string_view sql) {
   open.run(statement);
 }
 
-Recordset Database::open_recordset(std::string_view source) {
+Recordset Database::OpenRecordset(std::string_view source) {
   return Recordset::open(connection(), source);
 }
 
-void Database::close() {
+void Database::Close() {
   connection();
   connection_.reset();
 }

@@ -19,16 +19,16 @@ class Database {
   /// Runs one statement that gives no rows: DELETE, DROP TABLE, CREATE TABLE, INSERT INTO .. SELECT, UPDATE.
   /// Faults: 3075, 3144, 3129 (syntax), 3061 (unknown name), 3078 (unknown table), 3010 (table exists),
   /// 3421 (wrong type), and those of a write: 3026, 3027, 3049, 3260, 1032.
-  void execute(std::string_view sql);
+  void Execute(std::string_view sql);
 
   /// As execute(), for a statement that holds what a person typed: nothing but `table` may be read or
   /// written.
-  void execute_on(std::string_view table, std::string_view sql);
+  void ExecuteOn(std::string_view table, std::string_view sql);
 
   /// Opens a table by its name, or "select * from T [where ...]". Faults: 3078, 3061, 3075.
-  Recordset open_recordset(std::string_view source);
+  Recordset OpenRecordset(std::string_view source);
 
-  void close();
+  void Close();
   bool is_set() const { return connection_ != nullptr; }
 
  private:

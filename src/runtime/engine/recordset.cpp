@@ -17,7 +17,7 @@ namespace runtime::engine {
 namespace {
 
 enum class Place { BeforeFirst, OnRow, PastLast };
-enum class Edit { None, Change, New };
+enum class Pending { None, Change, New };
 
 // From so many steps on it is a long walk: a read that asks for its own lock takes seven times as long.
 constexpr int long_walk = 64;
@@ -43,7 +43,7 @@ struct Recordset::State {
   Row current;
   int steps = 0;
 
-  Edit edit = Edit::None;
+  Pending pending = Pending::None;
   std::vector<std::optional<Value>> changes;
 
   void load() {
@@ -57,7 +57,7 @@ struct Recordset::State {
 
   // `otherwise`: where the walk stands when there is no such row.
   void stand_on(std::optional<Row> row, Place otherwise) {
-    edit = Edit::None;
+    pending = Pending::None;
     place = row ? Place::OnRow : otherwise;
     current = row ? std::move(*row) : Row{};
   }
@@ -82,8 +82,8 @@ struct Recordset::State {
     return static_cast<std::size_t>(position);
   }
 
-  void begin_edit(Edit kind) {
-    edit = kind;
+  void begin_edit(Pending kind) {
+    pending = kind;
     changes.assign(rows.fields().size(), std::nullopt);
   }
 
@@ -150,14 +150,14 @@ bool Recordset::bof() const {
   return state().is_empty || state().place == Place::BeforeFirst;
 }
 
-void Recordset::move_first() {
+void Recordset::MoveFirst() {
   state().go_to_end(state().rows.first(*state().connection));
 }
-void Recordset::move_last() {
+void Recordset::MoveLast() {
   state().go_to_end(state().rows.last(*state().connection));
 }
 
-void Recordset::move_next() {
+void Recordset::MoveNext() {
   if (eof()) throw Fault(3021);
   auto& s = state();
   if (++s.steps % long_walk == 0) s.connection->begin_reading();
@@ -167,7 +167,7 @@ void Recordset::move_next() {
   if (s.place == Place::PastLast) s.connection->end_reading();
 }
 
-void Recordset::move_previous() {
+void Recordset::MovePrevious() {
   if (bof()) throw Fault(3021);
   auto& s = state();
   const bool from_end = s.place == Place::PastLast;
@@ -175,7 +175,7 @@ void Recordset::move_previous() {
              Place::BeforeFirst);
 }
 
-std::int64_t Recordset::record_count() {
+std::int64_t Recordset::RecordCount() {
   return state().rows.count(*state().connection);
 }
 
@@ -194,19 +194,19 @@ Value Recordset::field(std::string_view name) const {
 Value Recordset::field(int position) const {
   const auto& s = state();
   const auto place = s.checked(position);
-  if (s.edit != Edit::None && s.changes[place]) return *s.changes[place];
-  if (s.edit == Edit::New) return {};
+  if (s.pending != Pending::None && s.changes[place]) return *s.changes[place];
+  if (s.pending == Pending::New) return {};
   if (s.place != Place::OnRow) throw Fault(3021);
   return s.current.values[place];
 }
 
-void Recordset::add_new() {
-  state().begin_edit(Edit::New);
+void Recordset::AddNew() {
+  state().begin_edit(Pending::New);
 }
 
-void Recordset::edit() {
+void Recordset::Edit() {
   if (state().place != Place::OnRow) throw Fault(3021);
-  state().begin_edit(Edit::Change);
+  state().begin_edit(Pending::Change);
 }
 
 void Recordset::set(std::string_view name, const Value& value) {
@@ -216,16 +216,16 @@ void Recordset::set(std::string_view name, const Value& value) {
 void Recordset::set(int position, const Value& value) {
   auto& s = state();
   const auto place = s.checked(position);
-  if (s.edit == Edit::None) throw Fault(3020);
+  if (s.pending == Pending::None) throw Fault(3020);
   s.changes[place] = converted(s.rows.fields()[place], value);
 }
 
-void Recordset::update() {
+void Recordset::Update() {
   auto& s = state();
-  if (s.edit == Edit::None) throw Fault(3020);
+  if (s.pending == Pending::None) throw Fault(3020);
   s.connection->before_write();
   std::int64_t key = s.current.key;
-  if (s.edit == Edit::Change) {
+  if (s.pending == Pending::Change) {
     s.change();
   } else {
     s.insert();
@@ -233,20 +233,20 @@ void Recordset::update() {
   }
   const bool shows_a_row = s.place == Place::OnRow || s.is_empty;
   s.is_empty = false;
-  s.edit = Edit::None;
+  s.pending = Pending::None;
   if (shows_a_row) s.stand_on(s.rows.at(*s.connection, key), Place::PastLast);
 }
 
-void Recordset::cancel_update() {
-  if (state().edit == Edit::None) throw Fault(3020);
-  state().edit = Edit::None;
+void Recordset::CancelUpdate() {
+  if (state().pending == Pending::None) throw Fault(3020);
+  state().pending = Pending::None;
 }
 
-void Recordset::requery() {
+void Recordset::Requery() {
   state().load();
 }
 
-void Recordset::close() {
+void Recordset::Close() {
   state();
   state_.reset();
 }

@@ -30,13 +30,13 @@ class Recordset {
   bool bof() const;  ///< Before the first row, or there is none.
 
   /// Moves drop an edit under way. Fault 3021 when there is no row, or when already past that end.
-  void move_first();
-  void move_last();
-  void move_next();
-  void move_previous();
+  void MoveFirst();
+  void MoveLast();
+  void MoveNext();
+  void MovePrevious();
 
   /// How many rows there are; counts them at each call.
-  std::int64_t record_count();
+  std::int64_t RecordCount();
 
   int field_count() const;
   const std::string& field_name(int position) const;
@@ -46,24 +46,24 @@ class Recordset {
   Value field(int position) const;
 
   /// Begins a new record, all Null.
-  void add_new();
+  void AddNew();
   /// Begins a change of the current record. Fault 3021 without one.
-  void edit();
-  /// Sets a field of the record under way. Faults: 3020 without add_new() or edit(), 3421 when the field
+  void Edit();
+  /// Sets a field of the record under way. Faults: 3020 without AddNew() or Edit(), 3421 when the field
   /// cannot take the value: a word or an infinity in a number field, a fraction in a whole-number field, a
   /// number out of range.
   void set(std::string_view name, const Value& value);
   void set(int position, const Value& value);
-  /// Stores the fields that were set, no others. After an edit the fields are as stored; after add_new() the
+  /// Stores the fields that were set, no others. After an edit the fields are as stored; after AddNew() the
   /// current record is the one before it, or the new one when there was none at all. Faults: 3020 without
-  /// add_new() or edit(), 3021 when the row is gone, and those of a write: 3026, 3027, 3049, 3260, 1032.
-  void update();
+  /// AddNew() or Edit(), 3021 when the row is gone, and those of a write: 3026, 3027, 3049, 3260, 1032.
+  void Update();
   /// Drops the record under way. Fault 3020 when there is none.
-  void cancel_update();
+  void CancelUpdate();
 
   /// Reads the table anew and moves to the first row.
-  void requery();
-  void close();
+  void Requery();
+  void Close();
 
  private:
   friend class Database;

@@ -58,7 +58,7 @@ void Transactions::commit() {
   if (has_savepoint && writes_pending()) kept_->run("RELEASE " + savepoint(live_.size()));
 }
 
-void Transactions::rollback() {
+void Transactions::Rollback() {
   if (levels() == 0) throw Fault(3034);
   if (live_.empty()) {
     --old_;

@@ -13,7 +13,7 @@ class Transactions {
  public:
   void begin() { live_.push_back(false); }
   void commit();
-  void rollback();
+  void Rollback();
   int levels() const { return old_ + static_cast<int>(live_.size()); }
 
   void handler_ended();

@@ -43,7 +43,7 @@ Workspace::~Workspace() {
   ignoring_faults([this] { transactions_->drop(); });
 }
 
-Database Workspace::open_database(std::string_view name) {
+Database Workspace::OpenDatabase(std::string_view name) {
   const fs::path file = resolve_name(name);
   std::error_code ignored;
   if (!fs::exists(file, ignored)) throw Fault(3024, std::string(name));
@@ -58,14 +58,14 @@ Database Workspace::open_database(std::string_view name) {
   return Database(std::move(connection));
 }
 
-void Workspace::begin_trans() {
+void Workspace::BeginTrans() {
   transactions_->begin();
 }
-void Workspace::commit_trans() {
+void Workspace::CommitTrans() {
   transactions_->commit();
 }
-void Workspace::rollback() {
-  transactions_->rollback();
+void Workspace::Rollback() {
+  transactions_->Rollback();
 }
 int Workspace::levels() const {
   return transactions_->levels();

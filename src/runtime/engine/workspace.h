@@ -38,15 +38,15 @@ class Workspace {
   /// A handle on the file; every handle of this workspace is on the same connection. The file is never made.
   /// Faults: 3024 missing, 3343 not a project database (foreign, empty, a required table missing),
   /// 3049 damaged, 3260 in use by another program, 75 not readable, or another file is open already.
-  Database open_database(std::string_view name);
+  Database OpenDatabase(std::string_view name);
 
   /// Begins a level. Needs no open file.
-  void begin_trans();
+  void BeginTrans();
   /// Ends the innermost level and keeps its writes. Does nothing to an old one. Fault 3034: no level stands.
-  void commit_trans();
+  void CommitTrans();
   /// Ends the innermost level and takes back its writes; of an old one, all that the present handler has
   /// written. Fault 3034: no level stands.
-  void rollback();
+  void Rollback();
   /// How many levels stand, old ones included.
   int levels() const;
 

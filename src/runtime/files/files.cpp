@@ -40,7 +40,7 @@ std::vector<fs::path> found_by(std::string_view name) {
 
 }  // namespace
 
-std::string Files::dir(std::string_view name, int attributes) const {
+std::string Files::Dir(std::string_view name, int attributes) const {
   const bool wants_directories = (attributes & directory_attribute) != 0;
   for (const fs::path& found : found_by(name)) {
     if (is_a_directory(found) && !wants_directories) continue;
@@ -49,7 +49,7 @@ std::string Files::dir(std::string_view name, int attributes) const {
   return {};
 }
 
-void Files::kill(std::string_view pattern) const {
+void Files::Kill(std::string_view pattern) const {
   std::vector<fs::path> files = found_by(pattern);
   std::erase_if(files, is_a_directory);
   if (files.empty()) throw missing_fault(resolve(pattern), pattern);
@@ -60,7 +60,7 @@ void Files::kill(std::string_view pattern) const {
   }
 }
 
-void Files::copy(std::string_view from, std::string_view to) const {
+void Files::FileCopy(std::string_view from, std::string_view to) const {
   const fs::path source = resolve(from);
   const fs::path older = resolve(to);
   const fs::path target = exactly_named(to);
@@ -74,7 +74,7 @@ void Files::copy(std::string_view from, std::string_view to) const {
   remove_namesake(older, target);
 }
 
-void Files::rename(std::string_view from, std::string_view to) const {
+void Files::Name(std::string_view from, std::string_view to) const {
   const fs::path source = resolve(from);
   const fs::path target = exactly_named(to);
   if (!is_there(source)) throw missing_fault(source, from);
@@ -86,7 +86,7 @@ void Files::rename(std::string_view from, std::string_view to) const {
   if (error) throw Fault(75, std::string(from));
 }
 
-void Files::change_directory(std::string_view name) const {
+void Files::ChDir(std::string_view name) const {
   std::error_code error;
   fs::current_path(resolve(name), error);
   if (error) throw Fault(76, std::string(name));

@@ -30,24 +30,24 @@ class Files {
   /// The name, without its directory, of the file that `name` or the first in byte order that a pattern of
   /// "*" and "?" finds; "" when there is none and for "". A name that ends in a separator finds "." when
   /// directories are asked for.
-  std::string dir(std::string_view name, int attributes = 0) const;
+  std::string Dir(std::string_view name, int attributes = 0) const;
 
   /// Deletes the files, never directories, that a name or pattern finds. Fault 53 when it finds none, 76
   /// when its directory is missing, 55 for a file that the program holds open, 75 for one that cannot go.
-  void kill(std::string_view pattern) const;
+  void Kill(std::string_view pattern) const;
 
   /// Copies a file over another or to a new name; the copy can be written to even when its source cannot.
   /// Fault 53 without a source, 76 without one of the directories, 70 for a copy onto itself and when the
   /// program holds either file open, 75 when one cannot be opened, 61 for a full disk, 57 for any other
   /// failure on the way. No cut file is left behind.
-  void copy(std::string_view from, std::string_view to) const;
+  void FileCopy(std::string_view from, std::string_view to) const;
 
   /// Gives a file or directory another name. Fault 53 when there is none of the old name, 58 when there is
   /// one of the new, 76 without one of the directories, 55 when the program holds it open, else 75.
-  void rename(std::string_view from, std::string_view to) const;
+  void Name(std::string_view from, std::string_view to) const;
 
   /// Fault 76 when there is no such directory.
-  void change_directory(std::string_view name) const;
+  void ChDir(std::string_view name) const;
   std::string current_directory() const;
 
   /// Opens a file under a number from 1 to 511 (else Fault 52) and keeps it open until `close`. Bytes pass
@@ -70,7 +70,7 @@ class Files {
 
   /// Closes a number, or does nothing when it is not open. Fault 61 or 57 when what was written did not all
   /// reach the file, unless that was told before; the number is free all the same.
-  void close(int number);
+  void Close(int number);
 
   /// Closes every number, and then tells of the first failure.
   void close_all();

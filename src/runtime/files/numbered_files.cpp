@@ -71,7 +71,7 @@ std::string Files::input_value(int number, Until until) {
   return files::input_value(file.stream, until);
 }
 
-void Files::close(int number) {
+void Files::Close(int number) {
   const auto entry = open_files_.extract(number);
   if (entry.empty()) return;
   OpenFile& file = entry.mapped();
@@ -85,7 +85,7 @@ void Files::close_all() {
   std::exception_ptr first;
   while (!open_files_.empty()) {
     try {
-      close(open_files_.begin()->first);
+      Close(open_files_.begin()->first);
     } catch (const Fault&) {
       if (!first) first = std::current_exception();
     }
@@ -99,7 +99,7 @@ void Files::write_file(std::string_view name, const std::function<void(std::ostr
   std::ostream& stream = out(number);
   writer(stream);
   text::expect_written(stream, std::string(name));
-  close(number);
+  Close(number);
 }
 
 }  // namespace runtime::files

@@ -13,8 +13,8 @@ QWidget* DataControl::make_widget(QWidget* parent) {
 
 void DataControl::open() {
   if (table_.empty()) return;  // this one is handed its recordset by code
-  database_ = desktop().workspace.open_database(desktop().database_name);
-  recordset_ = database_.open_recordset(table_);
+  database_ = desktop().workspace.OpenDatabase(desktop().database_name);
+  recordset_ = database_.OpenRecordset(table_);
   fill();
 }
 
@@ -26,22 +26,22 @@ void DataControl::post() {
   const bool any_changed =
       std::any_of(boxes_.begin(), boxes_.end(), [](const auto& row) { return row.box->changed; });
   if (!any_changed || !has_record()) return;
-  recordset_.edit();
+  recordset_.Edit();
   for (const BoundField& row : boxes_) {
     if (row.box->changed) recordset_.set(row.field, row.box->held_value());
   }
-  recordset_.update();
+  recordset_.Update();
   for (const BoundField& row : boxes_) row.box->changed = false;
 }
 
 void DataControl::Refresh() {
-  recordset_.requery();
+  recordset_.Requery();
   fill();
 }
 
 void DataControl::MoveFirst() {
   post();
-  recordset_.move_first();
+  recordset_.MoveFirst();
   fill();
 }
 

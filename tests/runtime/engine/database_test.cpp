@@ -11,48 +11,48 @@ using testing::rest_of;
 class Execute : public testing::ProjectFile {
  protected:
   std::string all_of(const std::string& table) {
-    auto rows = database.open_recordset(table);
+    auto rows = database.OpenRecordset(table);
     return rest_of(rows);
   }
   int fault_of_statement(const std::string& sql) {
-    return fault_of([&] { database.execute(sql); });
+    return fault_of([&] { database.Execute(sql); });
   }
 
   Workspace workspace;
-  Database database = workspace.open_database(file.string());
+  Database database = workspace.OpenDatabase(file.string());
 };
 
 using ExecuteOn = Execute;
 
 TEST_F(Execute, deletes_all_rows) {
-  database.execute("DELETE * from COMMUTER");
+  database.Execute("DELETE * from COMMUTER");
   EXPECT_EQ(all_of("Commuter"), "");
 }
 
 TEST_F(Execute, makes_fills_and_drops_a_table) {
-  database.execute("CREATE TABLE sosec (Zone integer,Sales DOUBLE,Service DOUBLE)");
-  database.execute("insert into sosec select index, sigma, NULL from Commuter");
-  database.execute("update sosec set Service = 2.5 where zone= 1 ");
+  database.Execute("CREATE TABLE sosec (Zone integer,Sales DOUBLE,Service DOUBLE)");
+  database.Execute("insert into sosec select index, sigma, NULL from Commuter");
+  database.Execute("update sosec set Service = 2.5 where zone= 1 ");
   EXPECT_EQ(all_of("SOSEC"), "0 11.27 -|1 11.35 2.5|7 13.05 -|");
-  database.execute("DROP TABLE sosec");
+  database.Execute("DROP TABLE sosec");
   EXPECT_EQ(fault_of_statement("DROP TABLE sosec"), 3078);
 }
 
 TEST_F(Execute, pours_one_table_into_another) {
-  database.execute("CREATE TABLE population (Zone integer, Sales DOUBLE)");
-  database.execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
-  database.execute("insert into sosec select index, sigma from Commuter");
-  database.execute("insert into population select * from sosec ");
+  database.Execute("CREATE TABLE population (Zone integer, Sales DOUBLE)");
+  database.Execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
+  database.Execute("insert into sosec select index, sigma from Commuter");
+  database.Execute("insert into population select * from sosec ");
   EXPECT_EQ(all_of("population"), "0 11.27|1 11.35|7 13.05|");
 }
 
 TEST_F(Execute, joins_two_tables_where_their_fields_are_equal) {
-  database.execute("CREATE TABLE population (Zone integer, Sales DOUBLE)");
-  database.execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
-  database.execute("CREATE TABLE pairs (Zone integer, Sales DOUBLE, Sales_emp DOUBLE)");
-  database.execute("insert into population select index, sigma from Commuter");
-  database.execute("insert into sosec select index, wage from Commuter where index > 0");
-  database.execute(
+  database.Execute("CREATE TABLE population (Zone integer, Sales DOUBLE)");
+  database.Execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
+  database.Execute("CREATE TABLE pairs (Zone integer, Sales DOUBLE, Sales_emp DOUBLE)");
+  database.Execute("insert into population select index, sigma from Commuter");
+  database.Execute("insert into sosec select index, wage from Commuter where index > 0");
+  database.Execute(
       "INSERT INTO pairs select population.Zone, population.Sales, sosec.Sales as Sales_emp from population, "
       " "
       "sosec where population.zone=sosec.zone;");
@@ -60,20 +60,20 @@ TEST_F(Execute, joins_two_tables_where_their_fields_are_equal) {
 }
 
 TEST_F(Execute, finds_no_row_equal_to_null) {
-  database.execute("UPDATE Commuter set sigma = NULL where index = 1");
-  database.execute("UPDATE Commuter set sigma=0 where sigma = NULL ");
+  database.Execute("UPDATE Commuter set sigma = NULL where index = 1");
+  database.Execute("UPDATE Commuter set sigma=0 where sigma = NULL ");
   EXPECT_EQ(all_of("select * from Commuter where index = 1"), "1 - 120.64 Transport|");
 }
 
 TEST_F(Execute, refuses_a_word_in_a_number_field) {
-  database.execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
+  database.Execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
   EXPECT_EQ(fault_of_statement("insert into sosec select index, description from Commuter"), 3421);
   EXPECT_EQ(all_of("sosec"), "");
 }
 
 TEST_F(Execute, of_a_table_that_is_there_already_faults_with_its_name) {
   try {
-    database.execute("CREATE TABLE commuter (a integer)");
+    database.Execute("CREATE TABLE commuter (a integer)");
     FAIL();
   } catch (const Fault& fault) {
     EXPECT_EQ(fault.number, 3010);
@@ -108,29 +108,29 @@ TEST_F(Execute, that_faults_midway_changes_nothing) {
 }
 
 TEST_F(Execute, leaves_a_file_that_other_tools_open) {
-  database.execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
+  database.Execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");
   workspace.handler_ended();
   EXPECT_EQ(ask("SELECT sql FROM sqlite_schema WHERE name = 'sosec'"),
             "CREATE TABLE \"sosec\" (\"Zone\" INTEGER, \"Sales\" REAL) STRICT");
 }
 
 TEST_F(ExecuteOn, reaches_the_named_table_only) {
-  EXPECT_EQ(fault_of([&] { database.execute_on("commuter", "UPDATE Commuter set sigma = wage + 1"); }), 0);
+  EXPECT_EQ(fault_of([&] { database.ExecuteOn("commuter", "UPDATE Commuter set sigma = wage + 1"); }), 0);
   EXPECT_EQ(all_of("select * from Commuter where index = 0"), "0 130.6 129.6 Production|");
-  EXPECT_EQ(fault_of([&] { database.execute_on("sosec", "UPDATE Commuter set sigma = 1"); }), 3075);
-  EXPECT_EQ(fault_of([&] { database.execute_on("Commuter", "DROP TABLE empty_one"); }), 3075);
+  EXPECT_EQ(fault_of([&] { database.ExecuteOn("sosec", "UPDATE Commuter set sigma = 1"); }), 3075);
+  EXPECT_EQ(fault_of([&] { database.ExecuteOn("Commuter", "DROP TABLE empty_one"); }), 3075);
   EXPECT_EQ(fault_of([&] {
-              database.execute_on("empty_one",
-                                  "insert into empty_one select index, description from Commuter");
+              database.ExecuteOn("empty_one",
+                                 "insert into empty_one select index, description from Commuter");
             }),
             3075);
 }
 
 TEST_F(ExecuteOn, binds_no_statement_before_or_after_it) {
   const std::string sql = "UPDATE Commuter set sigma = 1";
-  EXPECT_EQ(fault_of([&] { database.execute(sql); }), 0);
-  EXPECT_EQ(fault_of([&] { database.execute_on("sosec", sql); }), 3075);
-  EXPECT_EQ(fault_of([&] { database.execute(sql); }), 0);
+  EXPECT_EQ(fault_of([&] { database.Execute(sql); }), 0);
+  EXPECT_EQ(fault_of([&] { database.ExecuteOn("sosec", sql); }), 3075);
+  EXPECT_EQ(fault_of([&] { database.Execute(sql); }), 0);
 }
 
 }  // namespace

@@ -93,7 +93,7 @@ std::string text_of(const Value& value) {
 
 std::string rest_of(Recordset& rows) {
   std::string text;
-  for (; !rows.eof(); rows.move_next()) {
+  for (; !rows.eof(); rows.MoveNext()) {
     for (int i = 0; i < rows.field_count(); ++i) text += (i == 0 ? "" : " ") + text_of(rows.field(i));
     text += "|";
   }

@@ -17,7 +17,7 @@ using testing::fault_of;
 class OpenDatabase : public testing::ProjectFile {
  protected:
   int fault_of_opening(const fs::path& name) {
-    return fault_of([&] { workspace.open_database(name.string()); });
+    return fault_of([&] { workspace.OpenDatabase(name.string()); });
   }
 
   void overwrite(const fs::path& name, std::streamoff place, const std::string& bytes) {
@@ -34,9 +34,9 @@ using OpenFile = OpenDatabase;
 TEST(UnsetDatabase, faults_at_every_use) {
   Database database;
   EXPECT_FALSE(database.is_set());
-  EXPECT_EQ(fault_of([&] { database.execute("DELETE * from Commuter"); }), 91);
-  EXPECT_EQ(fault_of([&] { database.open_recordset("Commuter"); }), 91);
-  EXPECT_EQ(fault_of([&] { database.close(); }), 91);
+  EXPECT_EQ(fault_of([&] { database.Execute("DELETE * from Commuter"); }), 91);
+  EXPECT_EQ(fault_of([&] { database.OpenRecordset("Commuter"); }), 91);
+  EXPECT_EQ(fault_of([&] { database.Close(); }), 91);
 }
 
 TEST_F(OpenDatabase, never_makes_a_file) {
@@ -46,13 +46,13 @@ TEST_F(OpenDatabase, never_makes_a_file) {
 
 TEST_F(OpenDatabase, finds_a_name_as_it_was_told_to) {
   workspace.resolve_name = [this](std::string_view name) { return directory / name; };
-  EXPECT_TRUE(workspace.open_database("zelmor.mdb").is_set());
+  EXPECT_TRUE(workspace.OpenDatabase("zelmor.mdb").is_set());
 }
 
 TEST_F(OpenDatabase, finds_a_bare_name_in_the_current_directory) {
   const auto before = fs::current_path();
   fs::current_path(directory);
-  EXPECT_TRUE(workspace.open_database("zelmor.mdb").is_set());
+  EXPECT_TRUE(workspace.OpenDatabase("zelmor.mdb").is_set());
   fs::current_path(before);
 }
 
@@ -64,7 +64,7 @@ TEST_F(OpenDatabase, refuses_an_empty_file) {
 TEST_F(OpenDatabase, refuses_a_file_of_another_kind_with_its_name) {
   std::ofstream(directory / "foreign.mdb") << std::string(4096, 'x');
   try {
-    workspace.open_database((directory / "foreign.mdb").string());
+    workspace.OpenDatabase((directory / "foreign.mdb").string());
     FAIL();
   } catch (const Fault& fault) {
     EXPECT_EQ(fault.number, 3343);
@@ -89,42 +89,42 @@ TEST_F(OpenDatabase, refuses_a_directory) {
 }
 
 TEST_F(OpenDatabase, refuses_a_second_file_beside_the_open_one) {
-  const auto database = workspace.open_database(file.string());
+  const auto database = workspace.OpenDatabase(file.string());
   fs::copy_file(file, directory / "other.mdb");
   EXPECT_EQ(fault_of_opening(directory / "other.mdb"), 75);
 }
 
 TEST_F(OpenDatabase, opens_another_file_when_the_first_is_closed) {
   fs::copy_file(file, directory / "other.mdb");
-  workspace.open_database(file.string());
+  workspace.OpenDatabase(file.string());
   EXPECT_EQ(fault_of_opening(directory / "other.mdb"), 0);
 }
 
 TEST_F(OpenDatabase, tells_that_another_program_holds_the_file) {
   Workspace other;
-  auto holder = other.open_database(file.string());
-  holder.execute("UPDATE Commuter set sigma = 1");
+  auto holder = other.OpenDatabase(file.string());
+  holder.Execute("UPDATE Commuter set sigma = 1");
   workspace.lock_wait = std::chrono::milliseconds(1);
-  auto database = workspace.open_database(file.string());
-  EXPECT_EQ(fault_of([&] { database.execute("UPDATE Commuter set sigma = 2"); }), 3260);
+  auto database = workspace.OpenDatabase(file.string());
+  EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set sigma = 2"); }), 3260);
   other.handler_ended();
-  EXPECT_EQ(fault_of([&] { database.execute("UPDATE Commuter set sigma = 2"); }), 0);
+  EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set sigma = 2"); }), 0);
 }
 
 TEST_F(OpenFile, is_held_with_its_journal_until_the_last_handle_goes) {
-  auto first = workspace.open_database(file.string());
+  auto first = workspace.OpenDatabase(file.string());
   auto second = first;
   EXPECT_TRUE(workspace.holds(file));
   EXPECT_TRUE(workspace.holds(directory / "." / "zelmor.mdb-journal"));
   EXPECT_FALSE(workspace.holds(directory / "trips.csv"));
-  first.close();
+  first.Close();
   EXPECT_TRUE(workspace.holds(file));
-  second.close();
+  second.Close();
   EXPECT_FALSE(workspace.holds(file));
 }
 
 TEST_F(OpenFile, is_held_while_writes_wait) {
-  workspace.open_database(file.string()).execute("UPDATE Commuter set sigma = 1");
+  workspace.OpenDatabase(file.string()).Execute("UPDATE Commuter set sigma = 1");
   EXPECT_TRUE(workspace.holds(file));
   workspace.handler_ended();
   EXPECT_FALSE(workspace.holds(file));
@@ -135,21 +135,21 @@ TEST_F(OpenFile, outlives_its_workspace_as_long_as_a_handle_is_on_it) {
   Database database;
   {
     Workspace brief;
-    database = brief.open_database(file.string());
+    database = brief.OpenDatabase(file.string());
   }
-  EXPECT_EQ(database.open_recordset("Commuter").record_count(), 3);
+  EXPECT_EQ(database.OpenRecordset("Commuter").RecordCount(), 3);
 }
 
 TEST_F(OpenFile, that_was_replaced_is_told_at_the_first_write) {
-  auto database = workspace.open_database(file.string());
+  auto database = workspace.OpenDatabase(file.string());
   fs::rename(file, directory / "old.mdb");
   testing::ask(file, "CREATE TABLE Commuter (sigma REAL)");
-  EXPECT_EQ(fault_of([&] { database.execute("UPDATE Commuter set sigma = 1"); }), 1032);
+  EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set sigma = 1"); }), 1032);
 }
 
 TEST_F(OpenFile, is_readable_as_a_copy_of_the_one_file) {
-  auto database = workspace.open_database(file.string());
-  database.execute("UPDATE Commuter set sigma = 4");
+  auto database = workspace.OpenDatabase(file.string());
+  database.Execute("UPDATE Commuter set sigma = 4");
   workspace.handler_ended();
   const auto copy = directory / "copy.mdb";
   // In a process of its own: to open the file by any other way drops this process's locks on it.
@@ -170,10 +170,10 @@ class OpenFileDeathTest : public OpenDatabase {
   /// Ends the process with 0 when the file can be read and the first write is refused as it should be.
   void read_then_write_as_an_ordinary_user() {
     if (geteuid() == 0 && seteuid(65534) != 0) _exit(1);  // modes are nothing to the superuser
-    auto database = workspace.open_database(file.string());
-    if (database.open_recordset("Commuter").record_count() != 3) _exit(2);
+    auto database = workspace.OpenDatabase(file.string());
+    if (database.OpenRecordset("Commuter").RecordCount() != 3) _exit(2);
     const auto write = [&] {
-      database.execute("UPDATE Commuter set sigma = 1");
+      database.Execute("UPDATE Commuter set sigma = 1");
       workspace.handler_ended();
     };
     _exit(fault_of(write) == 3027 ? 0 : 3);
@@ -196,17 +196,17 @@ TEST_F(OpenFileDeathTest, in_a_read_only_directory_is_told_at_the_first_write) {
 
 TEST_F(OpenFileDeathTest, keeps_what_was_durable_when_its_process_is_killed_between_writes) {
   const auto write_until_killed = [this] {
-    auto database = workspace.open_database(file.string());
-    database.execute("UPDATE Commuter set sigma = 4");
+    auto database = workspace.OpenDatabase(file.string());
+    database.Execute("UPDATE Commuter set sigma = 4");
     workspace.handler_ended();
-    database.execute("UPDATE Commuter set sigma = 5");
+    database.Execute("UPDATE Commuter set sigma = 5");
     // More than memory keeps back, so that the file itself is changed when the end comes.
-    for (int i = 0; i < 16; ++i) database.execute("insert into Commuter select * from Commuter");
+    for (int i = 0; i < 16; ++i) database.Execute("insert into Commuter select * from Commuter");
     kill(getpid(), SIGKILL);
   };
   EXPECT_EXIT(write_until_killed(), ::testing::KilledBySignal(SIGKILL), "");
   EXPECT_TRUE(fs::exists(directory / "zelmor.mdb-journal"));
-  EXPECT_EQ(workspace.open_database(file.string()).open_recordset("Commuter").record_count(), 3);
+  EXPECT_EQ(workspace.OpenDatabase(file.string()).OpenRecordset("Commuter").RecordCount(), 3);
   EXPECT_EQ(ask("SELECT sum(sigma) FROM Commuter"), "12.0");
 }
 

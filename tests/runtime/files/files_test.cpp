@@ -41,76 +41,76 @@ using ChangeDirectory = FilesTest;
 TEST_F(Dir, gives_the_name_of_the_file_as_it_is_on_the_disk) {
   std::filesystem::create_directory("Truck");
   put("Truck/Err.txt", "0");
-  EXPECT_EQ(files.dir("truck\\ERR.TXT"), "Err.txt");
-  EXPECT_EQ(files.dir(here.path().string() + "/truck/err.txt"), "Err.txt");
+  EXPECT_EQ(files.Dir("truck\\ERR.TXT"), "Err.txt");
+  EXPECT_EQ(files.Dir(here.path().string() + "/truck/err.txt"), "Err.txt");
 }
 
 TEST_F(Dir, is_empty_for_what_is_not_there) {
-  EXPECT_EQ(files.dir(""), "");
-  EXPECT_EQ(files.dir("", 16), "");
-  EXPECT_EQ(files.dir("missing.txt"), "");
-  EXPECT_EQ(files.dir("missing/file.txt"), "");
-  EXPECT_EQ(files.dir("missing/*.txt"), "");
+  EXPECT_EQ(files.Dir(""), "");
+  EXPECT_EQ(files.Dir("", 16), "");
+  EXPECT_EQ(files.Dir("missing.txt"), "");
+  EXPECT_EQ(files.Dir("missing/file.txt"), "");
+  EXPECT_EQ(files.Dir("missing/*.txt"), "");
 }
 
 TEST_F(Dir, finds_a_directory_only_when_asked) {
   std::filesystem::create_directory("Truck");
-  EXPECT_EQ(files.dir("truck"), "");
-  EXPECT_EQ(files.dir("truck", 16), "Truck");
-  EXPECT_EQ(files.dir("truck/"), "");
-  EXPECT_EQ(files.dir("truck/", 16), ".");
+  EXPECT_EQ(files.Dir("truck"), "");
+  EXPECT_EQ(files.Dir("truck", 16), "Truck");
+  EXPECT_EQ(files.Dir("truck/"), "");
+  EXPECT_EQ(files.Dir("truck/", 16), ".");
   put("file.txt", "");
-  EXPECT_EQ(files.dir("file.txt", 16), "file.txt");
+  EXPECT_EQ(files.Dir("file.txt", 16), "file.txt");
 }
 
 TEST_F(Dir, finds_the_first_of_a_pattern) {
   put("sig7.txt", "");
   put("sig1.txt", "");
   std::filesystem::create_directory("sig0");
-  EXPECT_EQ(files.dir("SIG*.*"), "sig1.txt");
-  EXPECT_EQ(files.dir("SIG*.*", 16), "sig0");
+  EXPECT_EQ(files.Dir("SIG*.*"), "sig1.txt");
+  EXPECT_EQ(files.Dir("SIG*.*", 16), "sig0");
 }
 
 TEST_F(Kill, deletes_what_a_pattern_finds_and_nothing_else) {
   std::filesystem::create_directory("commuter");
   for (const char* name : {"sig7.txt", "SIG1.TXT", "sig", "asig.txt", "var.txt"})
     put(here.path() / "commuter" / name, "");
-  files.kill(here.path().string() + "/Commuter/sig*.*");
+  files.Kill(here.path().string() + "/Commuter/sig*.*");
   EXPECT_EQ(names_in("commuter"), "asig.txt var.txt");
-  EXPECT_EQ(fault_of([this] { files.kill("commuter/var&*.*"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("commuter/var&*.*"); }), 53);
   EXPECT_EQ(names_in("commuter"), "asig.txt var.txt");
 }
 
 TEST_F(Kill, of_a_plain_name_deletes_one_file) {
   put("Err.txt", "");
   put("err.txt", "");
-  files.kill("err.txt");
+  files.Kill("err.txt");
   EXPECT_EQ(names_in("."), "Err.txt");
-  files.kill("err.txt");
+  files.Kill("err.txt");
   EXPECT_EQ(names_in("."), "");
 }
 
 TEST_F(Kill, leaves_directories) {
   std::filesystem::create_directory("sig7");
-  EXPECT_EQ(fault_of([this] { files.kill("sig*.*"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.kill("sig7"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("sig*.*"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("sig7"); }), 53);
   EXPECT_EQ(names_in("."), "sig7");
 }
 
 TEST_F(Kill, tells_a_missing_file_from_a_missing_directory) {
-  EXPECT_EQ(fault_of([this] { files.kill("missing.txt"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.kill("missing*.*"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.kill("missing/file.txt"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.kill("missing/*.*"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.kill(""); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("missing.txt"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("missing*.*"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Kill("missing/file.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.Kill("missing/*.*"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.Kill(""); }), 53);
 }
 
 TEST_F(Kill, faults_on_a_file_held_open) {
   files.open_for_output(3, "ccpar.txt");
-  EXPECT_EQ(fault_of([this] { files.kill("CCPAR*.*"); }), 55);
-  files.close(3);
+  EXPECT_EQ(fault_of([this] { files.Kill("CCPAR*.*"); }), 55);
+  files.Close(3);
   hold("ccpar.txt");
-  EXPECT_EQ(fault_of([this] { files.kill("ccpar.txt"); }), 55);
+  EXPECT_EQ(fault_of([this] { files.Kill("ccpar.txt"); }), 55);
   EXPECT_EQ(names_in("."), "ccpar.txt");
 }
 
@@ -122,14 +122,14 @@ TEST_F(Kill, faults_where_nothing_may_be_deleted) {
   std::error_code error;
   std::filesystem::permissions("locked", std::filesystem::perms::owner_write,
                                std::filesystem::perm_options::remove, error);
-  EXPECT_EQ(fault_of([this] { files.kill("locked/file.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.Kill("locked/file.txt"); }), 75);
 }
 
 TEST_F(FileCopy, copies_every_byte_to_exactly_the_name_given) {
   const std::string bytes("a\r\nb\0\x1A\xFF", 7);
   put("Distance.txt", bytes);
   std::filesystem::create_directory("Truck");
-  files.copy("distance.TXT", "truck/Dist.txt");
+  files.FileCopy("distance.TXT", "truck/Dist.txt");
   EXPECT_EQ(bytes_of("Truck/Dist.txt"), bytes);
   EXPECT_EQ(names_in("."), "Distance.txt Truck");
 }
@@ -137,17 +137,17 @@ TEST_F(FileCopy, copies_every_byte_to_exactly_the_name_given) {
 TEST_F(FileCopy, copies_files_larger_than_its_buffer) {
   const std::string bytes((std::size_t{3} << 20) + 17, 'x');
   put("large.txt", bytes);
-  files.copy("large.txt", "copy.txt");
+  files.FileCopy("large.txt", "copy.txt");
   EXPECT_TRUE(bytes_of("copy.txt") == bytes);
   put("empty.txt", "");
-  files.copy("empty.txt", "copy.txt");
+  files.FileCopy("empty.txt", "copy.txt");
   EXPECT_EQ(bytes_of("copy.txt"), "");
 }
 
 TEST_F(FileCopy, lets_an_older_file_of_another_case_give_way) {
   put("new.txt", "new");
   put("dist.txt", "older and longer");
-  files.copy("new.txt", "Dist.txt");
+  files.FileCopy("new.txt", "Dist.txt");
   EXPECT_EQ(names_in("."), "Dist.txt new.txt");
   EXPECT_EQ(bytes_of("Dist.txt"), "new");
 }
@@ -156,7 +156,7 @@ TEST_F(FileCopy, onto_itself_is_refused_and_cuts_nothing) {
   put("dist.txt", "whole");
   std::filesystem::create_hard_link("dist.txt", "link.txt");
   for (const char* target : {"dist.txt", "DIST.TXT", "./dist.txt", "link.txt"}) {
-    EXPECT_EQ(fault_of([this, target] { files.copy("dist.txt", target); }), 70) << target;
+    EXPECT_EQ(fault_of([this, target] { files.FileCopy("dist.txt", target); }), 70) << target;
   }
   EXPECT_EQ(bytes_of("dist.txt"), "whole");
   EXPECT_EQ(names_in("."), "dist.txt link.txt");
@@ -164,31 +164,31 @@ TEST_F(FileCopy, onto_itself_is_refused_and_cuts_nothing) {
 
 TEST_F(FileCopy, tells_what_is_missing) {
   put("there.txt", "");
-  EXPECT_EQ(fault_of([this] { files.copy("missing.txt", "new.txt"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.copy("", "new.txt"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.copy("missing/there.txt", "new.txt"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.copy("there.txt", "missing/new.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("missing.txt", "new.txt"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("", "new.txt"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("missing/there.txt", "new.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("there.txt", "missing/new.txt"); }), 76);
   EXPECT_EQ(names_in("."), "there.txt");
 }
 
 TEST_F(FileCopy, takes_directories_for_neither_end) {
   put("there.txt", "");
   std::filesystem::create_directory("Truck");
-  EXPECT_EQ(fault_of([this] { files.copy("truck", "new.txt"); }), 75);
-  EXPECT_EQ(fault_of([this] { files.copy("there.txt", "truck"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("truck", "new.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("there.txt", "truck"); }), 75);
   EXPECT_EQ(names_in("."), "Truck there.txt");
 }
 
 TEST_F(FileCopy, of_or_onto_a_file_held_open_is_refused) {
   put("there.txt", "there");
   files.open_for_output(1, "open.txt");
-  EXPECT_EQ(fault_of([this] { files.copy("open.txt", "new.txt"); }), 70);
-  EXPECT_EQ(fault_of([this] { files.copy("there.txt", "OPEN.TXT"); }), 70);
-  files.close(1);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("open.txt", "new.txt"); }), 70);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("there.txt", "OPEN.TXT"); }), 70);
+  files.Close(1);
   put("store.mdb", "rows");
   hold("store.mdb");
-  EXPECT_EQ(fault_of([this] { files.copy("store.mdb", "new.txt"); }), 70);
-  EXPECT_EQ(fault_of([this] { files.copy("there.txt", "Store.mdb"); }), 70);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("store.mdb", "new.txt"); }), 70);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("there.txt", "Store.mdb"); }), 70);
   EXPECT_EQ(bytes_of("store.mdb"), "rows");
   EXPECT_EQ(names_in("."), "open.txt store.mdb there.txt");
 }
@@ -198,8 +198,8 @@ TEST_F(FileCopy, of_a_read_only_file_can_be_written_to) {
   ASSERT_TRUE(user);
   put("locked.txt", "1");
   std::filesystem::permissions("locked.txt", std::filesystem::perms::owner_read);
-  files.copy("locked.txt", "copy.txt");
-  files.copy("locked.txt", "copy.txt");
+  files.FileCopy("locked.txt", "copy.txt");
+  files.FileCopy("locked.txt", "copy.txt");
   put("copy.txt", "2");
   EXPECT_EQ(bytes_of("copy.txt"), "2");
 }
@@ -212,8 +212,8 @@ TEST_F(FileCopy, leaves_all_as_it_was_when_an_end_cannot_be_opened) {
   put("secret.txt", "secret");
   std::filesystem::permissions("locked.txt", std::filesystem::perms::owner_read);
   std::filesystem::permissions("secret.txt", std::filesystem::perms::none);
-  EXPECT_EQ(fault_of([this] { files.copy("there.txt", "locked.txt"); }), 75);
-  EXPECT_EQ(fault_of([this] { files.copy("secret.txt", "there.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("there.txt", "locked.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.FileCopy("secret.txt", "there.txt"); }), 75);
   EXPECT_EQ(bytes_of("locked.txt"), "locked");
   EXPECT_EQ(bytes_of("there.txt"), "there");
 }
@@ -226,7 +226,7 @@ TEST_F(FileCopy, that_fails_midway_leaves_no_cut_file) {
   auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{100000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
-  const int fault = fault_of([this] { files.copy("large.txt", "copy.txt"); });
+  const int fault = fault_of([this] { files.FileCopy("large.txt", "copy.txt"); });
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, handler);
   EXPECT_EQ(fault, 57);
@@ -235,55 +235,55 @@ TEST_F(FileCopy, that_fails_midway_leaves_no_cut_file) {
 
 TEST_F(Rename, gives_a_file_exactly_its_new_name) {
   put("CCPAR2.txt", "1");
-  files.rename("ccpar2.txt", ".\\ccpar.txt");
+  files.Name("ccpar2.txt", ".\\ccpar.txt");
   EXPECT_EQ(names_in("."), "ccpar.txt");
   EXPECT_EQ(bytes_of("ccpar.txt"), "1");
 }
 
 TEST_F(Rename, tells_what_is_missing) {
   put("there.txt", "");
-  EXPECT_EQ(fault_of([this] { files.rename("missing.txt", "new.txt"); }), 53);
-  EXPECT_EQ(fault_of([this] { files.rename("missing/there.txt", "new.txt"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.rename("there.txt", "missing/new.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.Name("missing.txt", "new.txt"); }), 53);
+  EXPECT_EQ(fault_of([this] { files.Name("missing/there.txt", "new.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.Name("there.txt", "missing/new.txt"); }), 76);
   EXPECT_EQ(names_in("."), "there.txt");
 }
 
 TEST_F(Rename, never_takes_the_place_of_another_file) {
   put("ccpar.txt", "1");
   put("ccpar2.txt", "2");
-  EXPECT_EQ(fault_of([this] { files.rename("ccpar2.txt", "ccpar.txt"); }), 58);
-  EXPECT_EQ(fault_of([this] { files.rename("ccpar2.txt", "CCPAR.TXT"); }), 58);
+  EXPECT_EQ(fault_of([this] { files.Name("ccpar2.txt", "ccpar.txt"); }), 58);
+  EXPECT_EQ(fault_of([this] { files.Name("ccpar2.txt", "CCPAR.TXT"); }), 58);
   EXPECT_EQ(bytes_of("ccpar.txt"), "1");
   EXPECT_EQ(bytes_of("ccpar2.txt"), "2");
 }
 
 TEST_F(Rename, faults_on_a_file_held_open) {
   files.open_for_output(3, "ccpar2.txt");
-  EXPECT_EQ(fault_of([this] { files.rename("ccpar2.txt", "ccpar.txt"); }), 55);
-  files.close(3);
+  EXPECT_EQ(fault_of([this] { files.Name("ccpar2.txt", "ccpar.txt"); }), 55);
+  files.Close(3);
   hold("ccpar2.txt");
-  EXPECT_EQ(fault_of([this] { files.rename("ccpar2.txt", "ccpar.txt"); }), 55);
+  EXPECT_EQ(fault_of([this] { files.Name("ccpar2.txt", "ccpar.txt"); }), 55);
   EXPECT_EQ(names_in("."), "ccpar2.txt");
 }
 
 TEST_F(ChangeDirectory, enters_without_regard_to_case) {
   std::filesystem::create_directory("Commuter");
-  files.change_directory("COMMUTER");
+  files.ChDir("COMMUTER");
   EXPECT_EQ(files.current_directory(), (here.path() / "Commuter").string());
-  files.change_directory("..\\commuter/..");
+  files.ChDir("..\\commuter/..");
   EXPECT_EQ(files.current_directory(), here.path().string());
 }
 
 TEST_F(ChangeDirectory, faults_on_what_is_no_directory) {
   put("file.txt", "");
-  EXPECT_EQ(fault_of([this] { files.change_directory("missing"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.change_directory("file.txt"); }), 76);
-  EXPECT_EQ(fault_of([this] { files.change_directory(""); }), 76);
+  EXPECT_EQ(fault_of([this] { files.ChDir("missing"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.ChDir("file.txt"); }), 76);
+  EXPECT_EQ(fault_of([this] { files.ChDir(""); }), 76);
 }
 
 TEST_F(ChangeDirectory, leaves_no_name_for_a_directory_that_is_gone) {
   std::filesystem::create_directory("gone");
-  files.change_directory("gone");
+  files.ChDir("gone");
   std::filesystem::remove(here.path() / "gone");
   EXPECT_EQ(fault_of([this] { files.current_directory(); }), 76);
 }

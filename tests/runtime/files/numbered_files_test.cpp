@@ -27,7 +27,7 @@ TEST_F(NumberedFiles, write_over_what_was_there) {
   files.open_for_output(1, "outpar.txt");
   text::print_line(files.out(1), {12});
   text::print_line(files.out(1), {"DB"});
-  files.close(1);
+  files.Close(1);
   EXPECT_EQ(bytes_of("outpar.txt"), " 12 \r\nDB\r\n");
 }
 
@@ -35,7 +35,7 @@ TEST_F(NumberedFiles, bear_exactly_the_name_given) {
   std::filesystem::create_directory("Truck");
   put("Truck/err.txt", "older");
   files.open_for_output(1, "truck\\Err.txt");
-  files.close(1);
+  files.Close(1);
   EXPECT_EQ(names_in("Truck"), "Err.txt");
   EXPECT_EQ(bytes_of("Truck/Err.txt"), "");
 }
@@ -44,9 +44,9 @@ TEST_F(NumberedFiles, append_to_a_file_found_without_regard_to_case) {
   put("Trips.csv", "1\r\n");
   files.open_for_append(2, "trips.csv");
   text::print_line(files.out(2), {"2"});
-  files.close(2);
+  files.Close(2);
   files.open_for_append(2, "new.csv");
-  files.close(2);
+  files.Close(2);
   EXPECT_EQ(bytes_of("Trips.csv"), "1\r\n2\r\n");
   EXPECT_EQ(names_in("."), "Trips.csv new.csv");
 }
@@ -57,7 +57,7 @@ TEST_F(NumberedFiles, give_the_values_of_a_file) {
   EXPECT_EQ(files.input_value(1), "1");
   EXPECT_EQ(files.input_value(1, Until::comma_or_line), "no such zone");
   EXPECT_EQ(fault_of([this] { files.input_value(1, Until::comma_or_line); }), 62);
-  files.close(1);
+  files.Close(1);
 }
 
 TEST_F(NumberedFiles, are_three_at_a_time_and_more) {
@@ -81,7 +81,7 @@ TEST_F(NumberedFiles, are_open_under_one_number_only) {
   EXPECT_EQ(fault_of([this] { files.open_for_output(2, "ONE.TXT"); }), 55);
   EXPECT_EQ(fault_of([this] { files.open_for_append(2, "./one.txt"); }), 55);
   EXPECT_EQ(fault_of([this] { files.open_for_input(2, "one.txt"); }), 55);
-  files.close(1);
+  files.Close(1);
   EXPECT_EQ(bytes_of("one.txt"), "kept\r\n");
   EXPECT_EQ(names_in("."), "one.txt");
 }
@@ -157,37 +157,37 @@ TEST_F(NumberedFiles, keep_the_older_file_when_they_cannot_be_made) {
 TEST_F(NumberedFiles, stay_where_they_are_when_the_directory_changes) {
   std::filesystem::create_directory("commuter");
   files.open_for_output(1, "a.txt");
-  files.change_directory("commuter");
-  EXPECT_EQ(fault_of([this] { files.kill("../a.txt"); }), 55);
+  files.ChDir("commuter");
+  EXPECT_EQ(fault_of([this] { files.Kill("../a.txt"); }), 55);
   files.open_for_output(2, "a.txt");
   files.close_all();
   EXPECT_EQ(names_in("."), "a.txt");
 }
 
 TEST_F(NumberedFiles, close_without_a_fault_when_they_are_not_open) {
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 0);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
   EXPECT_EQ(fault_of([this] { files.close_all(); }), 0);
 }
 
 TEST_F(NumberedFiles, fault_at_the_close_that_finds_the_disk_full) {
   files.open_for_output(1, "/dev/full");
   text::print_line(files.out(1), {"fits into the buffer"});
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 61);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 61);
   EXPECT_FALSE(files.is_open(1));
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 0);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
 }
 
 TEST_F(NumberedFiles, fault_at_the_line_that_finds_the_disk_full_and_close_quietly) {
   files.open_for_output(1, "/dev/full");
   const std::string long_text(100000, 'x');
   EXPECT_EQ(fault_of([&] { text::print_line(files.out(1), {long_text}); }), 61);
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 0);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
 }
 
 TEST_F(NumberedFiles, fault_at_the_close_when_nobody_told_of_a_failed_write) {
   files.open_for_output(1, "/dev/full");
   files.out(1) << std::string(100000, 'x');
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 61);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 61);
 }
 
 TEST_F(NumberedFiles, all_close_when_one_of_them_faults) {
@@ -219,7 +219,7 @@ TEST_F(NumberedFiles, written_at_once_pass_over_no_failed_write) {
   const auto writer = [](std::ostream& stream) { stream << std::string(100000, 'x'); };
   EXPECT_EQ(fault_of([&] { files.write_file("/dev/full", writer); }), 61);
   EXPECT_TRUE(files.is_open(1));
-  EXPECT_EQ(fault_of([this] { files.close(1); }), 0);
+  EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
 }
 
 }  // namespace
