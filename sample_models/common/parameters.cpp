@@ -16,7 +16,8 @@ int read_district_count(LineReader& file, int zones) {
   const auto flag = pieces.size() == 2 ? parse_whole(pieces[0]) : std::nullopt;
   const auto count = pieces.size() == 2 ? parse_whole(pieces[1]) : std::nullopt;
   if (flag == 0 && count == 0) return 0;
-  if (flag == 1 && count && *count >= 1 && *count <= zones) return *count;
+  const int districts = count.value_or(0);
+  if (flag == 1 && districts >= 1 && districts <= zones) return districts;
   file.refuse(quoted(line) + " is neither 0 and 0 nor 1 and a number of districts up to " +
               std::to_string(zones));
 }
