@@ -13,11 +13,12 @@ int read_zone_count(LineReader& file) {
 int read_district_count(LineReader& file, int zones) {
   const auto line = file.next();
   const auto pieces = split_at_blanks(line);
-  const auto flag = pieces.size() == 2 ? parse_whole(pieces[0]) : std::nullopt;
-  const auto count = pieces.size() == 2 ? parse_whole(pieces[1]) : std::nullopt;
+  constexpr int unreadable = -1;
+  const bool pair = pieces.size() == 2;
+  const int flag = pair ? parse_whole(pieces[0]).value_or(unreadable) : unreadable;
+  const int count = pair ? parse_whole(pieces[1]).value_or(unreadable) : unreadable;
   if (flag == 0 && count == 0) return 0;
-  const int districts = count.value_or(0);
-  if (flag == 1 && districts >= 1 && districts <= zones) return districts;
+  if (flag == 1 && count >= 1 && count <= zones) return count;
   file.refuse(quoted(line) + " is neither 0 and 0 nor 1 and a number of districts up to " +
               std::to_string(zones));
 }
