@@ -6,6 +6,7 @@
 #include "analysis/layouts.h"
 #include "analysis/picks.h"
 #include "commuter/form3.h"
+#include "inputs/form2.h"
 #include "shell/start_and_exit.h"
 
 namespace quelar {
@@ -19,6 +20,10 @@ constexpr std::array menu_table{
     MenuTableRow{"spec_timdist", analysis::mdiform1::spec_timdist_Click},
     MenuTableRow{"spec_comm", analysis::mdiform1::spec_comm_Click},
     MenuTableRow{"Mnu_exit", shell::mdiform1::Mnu_exit_Click},
+};
+
+constexpr std::array form2_table{
+    EventTableRow{"", Event::Load, inputs::form2::Form_Load},
 };
 
 constexpr std::array form3_table{
@@ -59,6 +64,9 @@ std::vector<runtime::forms::EventRow> bound_to(Program& program, std::span<const
 std::span<const MenuTableRow> menu_events() {
   return menu_table;
 }
+std::span<const EventTableRow> form2_events() {
+  return form2_table;
+}
 std::span<const EventTableRow> form3_events() {
   return form3_table;
 }
@@ -67,6 +75,7 @@ void tie_events(Program& program) {
   for (const MenuTableRow& row : menu_table) {
     program.mdiform1.window().on_item(row.item, [&program, handler = row.handler] { handler(program); });
   }
+  program.form2.set_events(bound_to(program, form2_table));
   program.form3.set_events(bound_to(program, form3_table));
   QObject::connect(&program.mdiform1.window(), &runtime::forms::MainWindow::close_requested, [&program] {
     program.desktop.run_event([&program] { shell::mdiform1::close_box(program); });

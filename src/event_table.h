@@ -24,6 +24,7 @@ struct MenuTableRow {
 };
 
 std::span<const MenuTableRow> menu_events();
+std::span<const EventTableRow> form2_events();
 std::span<const EventTableRow> form3_events();
 
 /// Ties every event to its handler. Called once for a program.

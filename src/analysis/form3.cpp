@@ -96,7 +96,7 @@ void Command8_Click(Program& program) {
                               "Do you wish to continue?";
   if (program.desktop.MsgBox(summary, runtime::forms::yes_no) == runtime::forms::reply_no) return;
   form3.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   shell::EnableMenus(program);
   program.mdiform1.spec_timdist.set_enabled(false);
   program.mdiform1.spec_CuCo.set_enabled(true);
@@ -110,7 +110,7 @@ void Command3_Click(Program& program) {
   close_files(program);
   program.form1.Unload();
   program.form3.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   shell::EnableMenus(program);
   program.mdiform1.spec_timdist.set_enabled(true);
   program.mdiform1.spec_CuCo.set_enabled(false);
@@ -121,7 +121,7 @@ void Command14_Click(Program& program) {
   forget_picks(program);
   close_files(program);
   program.form3.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   program.form1.Unload();
   shell::EnableMenus(program);
   program.mdiform1.spec_CuCo.set_enabled(false);
@@ -131,7 +131,7 @@ void Command14_Click(Program& program) {
 
 void Command6_Click(Program& program) {
   program.form3.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
 }
 
 }  // namespace analysis::form3

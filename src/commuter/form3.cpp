@@ -14,9 +14,9 @@ std::string path_of(const Run& run, const std::string& name) {
 }
 
 void retry_end(Program& program) {
-  // Number 3 is not known here: what stands open under it stays open.
-  program.desktop.files.Close(1);
-  program.desktop.files.Close(2);
+  // Number 3 is not known here: what stands open under it stays open. A full disk was a fault already.
+  runtime::ignoring_faults([&] { program.desktop.files.Close(1); });
+  runtime::ignoring_faults([&] { program.desktop.files.Close(2); });
   shell::BeginFileTransaction(program);
   program.form3.Show();
   program.form3.set_window_state(WindowState::maximized);
@@ -26,7 +26,7 @@ void reset_end(Run& run) {
   Program& program = run.program;
   analysis::forget_picks(program);
   program.form3.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   program.form1.Unload();
   program.desktop.files.Close(1);
   program.desktop.files.Close(2);
@@ -41,7 +41,7 @@ namespace {
 
 /// The forms go, and the run state with its count of picks stays.
 void bail_end(Program& program) {
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   program.form3.Unload();
   shell::EnableMenus(program);
 }

@@ -37,7 +37,9 @@ void write_cost_head(std::ostream& stream, std::int16_t zone_count, const std::s
 void write_pick_count(std::ostream& stream, std::int16_t pick_count);
 void write_pick(std::ostream& stream, const std::string& pick_code);
 
-/// `costpar.txt`: two lines from the six fields of the mode share record in stored order.
+/// `costpar.txt`: two lines from the fields of the mode share record in stored order: four mode shares, then
+/// the two parameters of the cost model.
+inline constexpr int cost_parameter_fields = 6;
 void write_cost_parameters(std::ostream& stream, const std::vector<Value>& fields);
 
 }  // namespace commuter

@@ -177,7 +177,7 @@ void finish_parameter_files(Run& run) {
   for (const int number : parameter_files) files.Close(number);
   auto& shares = run.program.form1->Data3;
   std::vector<Value> fields;
-  for (int i = 0; i < shares.field_count(); ++i) fields.push_back(shares.field(i));
+  for (int i = 0; i < cost_parameter_fields; ++i) fields.push_back(shares.field(i));
   files.write_file(path_of(run, "/costpar.txt"),
                    [&](std::ostream& stream) { write_cost_parameters(stream, fields); });
 }
@@ -197,7 +197,7 @@ End ask(Run& run) {
   Program& program = run.program;
   build_summary(run);
   program.form1.Unload();
-  program.form2.unload_without_storing();
+  program.form2.Unload();
   program.form3.set_window_state(runtime::forms::WindowState::maximized);
   run.RunSummary += "Do you wish to continue?";
   return program.desktop.MsgBox(run.RunSummary, yes_no) == reply_no ? End::retry : End::go_on;

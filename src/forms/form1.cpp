@@ -72,7 +72,7 @@ constexpr std::array controls{
     button("Command6", "Restore Defaults", {7320, 5640, 855, 375}, hidden),
 };
 
-constexpr runtime::forms::FormDesign design{"Form1", "Form1", 8370, 6540, false, controls};
+constexpr runtime::forms::FormDesign design{"Form1", "Form1", 8370, 6540, false, true, controls};
 
 }  // namespace
 

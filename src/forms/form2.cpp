@@ -88,7 +88,8 @@ constexpr std::array controls{
     text(2),
 };
 
-constexpr runtime::forms::FormDesign design{"Form2", "Develop Inputs", 8895, 5160, false, controls};
+// A number counts only when the analyst has saved it, so an unload by anything else drops it.
+constexpr runtime::forms::FormDesign design{"Form2", "Develop Inputs", 8895, 5160, false, false, controls};
 
 }  // namespace
 

@@ -62,13 +62,12 @@ constexpr ControlDesign occupation_button(int index) {
 }
 
 constexpr ControlDesign option(int index, const char* caption) {
-  return {"Option4", index, Kind::OptionButton, in_frame1, caption, {120, 430 + index * 265, 2460, 260}};
+  return {"Option4", index, Kind::OptionButton, in_frame1, caption, {120, 630 + index * 260, 2460, 250}};
 }
 
-constexpr ControlDesign frame_button(const char* name, const char* caption, int left, int width, bool visible,
+constexpr ControlDesign frame_button(const char* name, const char* caption, Place place, bool visible,
                                      bool is_enabled = enabled) {
-  return {name,    no_index,  Kind::CommandButton, in_frame1, caption, {left, 1350, width, row_height},
-          visible, is_enabled};
+  return {name, no_index, Kind::CommandButton, in_frame1, caption, place, visible, is_enabled};
 }
 
 constexpr ControlDesign label(const char* name, const char* caption, Place place, bool visible) {
@@ -167,24 +166,24 @@ constexpr std::array controls{
                   "Reliability File",
                   {button_left, 3000, 1575, row_height},
                   hidden},
-    ControlDesign{"Frame1", no_index, Kind::Frame, nullptr, "Options", {0, 3480, 6510, 1830}},
-    ControlDesign{"Label1", no_index, Kind::Label, in_frame1, "Reliability ", {120, 200, 2460, 230}},
+    ControlDesign{"Frame1", no_index, Kind::Frame, nullptr, "Options", {0, 3480, 6510, 1600}},
+    ControlDesign{"Label1", no_index, Kind::Label, in_frame1, "Reliability ", {120, 390, 2460, 230}},
     option(0, "Use Sketch-Planning Data"),
     option(1, "Supply Reliability File"),
     option(2, "Don't Use in Analysis"),
-    line("Line1", {2640, 260, 30, 990}),
+    line("Line1", {2640, 420, 30, 1000}),
     ControlDesign{
-        "Check1", no_index, Kind::CheckBox, in_frame1, "Use District File?", {2880, 430, 2460, 260}},
-    line("Line2", {120, 1250, 2520, 30}),
-    line("Line3", {2640, 1250, 3720, 30}),
-    frame_button("Command2", "Run Commercial Analysis", 120, 2640, shown, disabled),
-    frame_button("Command11", "Run Commuter Analysis", 120, 2640, hidden),
-    frame_button("Command8", "Save", 2880, 1335, shown),
-    frame_button("Command6", "Save", 2880, 1335, hidden),
-    frame_button("Command3", "Quit", 4320, 1335, shown),
+        "Check1", no_index, Kind::CheckBox, in_frame1, "Use District File?", {2880, 450, 2340, 260}},
+    line("Line2", {120, 330, 6270, 30}),
+    line("Line3", {120, 1500, 6270, 30}),
+    frame_button("Command2", "Run Commercial Analysis", {2880, 880, 2340, row_height}, shown, disabled),
+    frame_button("Command11", "Run Commuter Analysis", {2880, 880, 2340, row_height}, hidden),
+    frame_button("Command8", "Save", {5340, 390, 1020, row_height}, shown),
+    frame_button("Command6", "Save", {5340, 390, 1020, row_height}, hidden),
+    frame_button("Command3", "Quit", {5340, 880, 1020, row_height}, shown),
 };
 
-constexpr runtime::forms::FormDesign design{"Form3", "Form3", 7440, 6900, false, controls};
+constexpr runtime::forms::FormDesign design{"Form3", "Form3", 7440, 6900, false, true, controls};
 
 }  // namespace
 

@@ -62,7 +62,7 @@ constexpr std::array controls{
         "Command1", no_index, Kind::CommandButton, nullptr, "Clear Fields Selected", {8640, 5340, 1935, 375}},
 };
 
-constexpr runtime::forms::FormDesign design{"frmDataGrid", "frmDataGrid", 11400, 6120, true, controls};
+constexpr runtime::forms::FormDesign design{"frmDataGrid", "frmDataGrid", 11400, 6120, true, true, controls};
 
 }  // namespace
 

@@ -52,7 +52,8 @@ constexpr std::array controls{
     ControlDesign{"Command1", no_index, Kind::CommandButton, nullptr, "Quit", {3360, 3000, 1935, 735}},
 };
 
-constexpr runtime::forms::FormDesign design{"Frmdirget", "Choose Directory", 7170, 4020, true, controls};
+constexpr runtime::forms::FormDesign design{"Frmdirget", "Choose Directory", 7170, 4020, true, true,
+                                            controls};
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "shell/module1.h"
 
+#include <algorithm>
+
 namespace shell {
 
 using runtime::Fault;
@@ -30,7 +32,12 @@ runtime::engine::Workspace& shared_workspace(Program& program) {
   return *program.SharedWorkspace;
 }
 
-constexpr std::size_t longest_extension = 3;
+constexpr std::ptrdiff_t longest_extension = 3;
+
+/// Characters of a UTF-8 text.
+std::ptrdiff_t length_of(const std::string& text) {
+  return std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; });
+}
 
 }  // namespace
 
@@ -52,7 +59,7 @@ bool CheckFileName(Program& program, std::string& name) {
   if (dot != std::string::npos) {
     const std::string extension = name.substr(dot + 1);
     name.resize(dot);
-    if (extension.size() > longest_extension) {
+    if (length_of(extension) > longest_extension) {
       program.desktop.MsgBox("The following file extension is too long.\n" + name +
                                  "\nExtensions must have 3 characters or less.",
                              runtime::forms::ok_only, "Error: Check Filename Extension");

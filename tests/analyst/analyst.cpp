@@ -160,6 +160,7 @@ void Analyst::choose(const std::string& item) {
     const bool on_bar = holder == &menu_bar(main_window_);
     const QRect place = on_bar ? static_cast<QMenuBar*>(holder)->actionGeometry(action)
                                : static_cast<QMenu*>(holder)->actionGeometry(action);
+    if (action == path.back() && !on_bar && when_menu_opens) when_menu_opens();
     if (action->menu() == nullptr || on_bar) {
       QTest::mouseClick(holder, Qt::LeftButton, {}, place.center());
     } else {

@@ -40,6 +40,9 @@ class Analyst : public QObject {
   /// Called when the next box stands on the screen, before it is answered.
   std::function<void(const Box&)> when_box_shows;
 
+  /// Called when the menu that holds a chosen item is open, before the item is clicked.
+  std::function<void()> when_menu_opens;
+
   /// Clicks through the menu to the item of that object name. Complains when the way is barred.
   void choose(const std::string& item);
   /// Clicks a button, option or check box, which must be to be seen and enabled.

@@ -15,6 +15,8 @@ namespace runtime::forms {
 namespace {
 
 constexpr const char* expected_extension = ".txt";
+constexpr int dialog_width = 10200;  // twips
+constexpr int dialog_height = 6300;
 
 /// "a|*.txt|b|*.*" as the dialog's list. "*.*" means every file, also one without a dot.
 QStringList name_filters(const std::string& filter) {
@@ -61,6 +63,8 @@ void CommonDialog::show(const QString& button) {
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setLabelText(QFileDialog::Accept, button);
+  dialog.setViewMode(QFileDialog::List);  // what is picked is a name; sizes and dates only narrow it
+  dialog.resize(pixels({0, 0, dialog_width, dialog_height}).size());
   dialog.setNameFilters(name_filters(filter));
   dialog.setDirectory(start_directory(init_dir, file_name));
   dialog.selectFile(qt(std::string(files::file_name_of(file_name).value_or(file_name))));

@@ -55,7 +55,6 @@ void Control::set_height(int twips) {
 }
 
 void Control::set_visible(bool visible) {
-  // A button that is hidden by its own handler must not hand the focus to a neighbour's click.
   visible_ = visible;
   widget_->setVisible(visible);
   if (visible && !lies_under()) widget_->raise();

@@ -57,6 +57,7 @@ class Control {
 
   /// Sets the handler of an event; a control without one passes the event over.
   void on(Event event, std::function<void()> handler) { handlers_[event] = std::move(handler); }
+  void forget_handlers() { handlers_.clear(); }
 
  protected:
   virtual QWidget* make_widget(QWidget* parent) = 0;

@@ -65,7 +65,8 @@ struct FormDesign {
   const char* caption;
   int client_width;  // twips
   int client_height;
-  bool appears_at_load;  // also when a mere reference loads it
+  bool appears_at_load;   // also when a mere reference loads it
+  bool stores_at_unload;  // what its bound boxes hold goes to the tables when it is unloaded
   std::span<const ControlDesign> controls;
 };
 

@@ -86,7 +86,7 @@ void FormBase::open_data_controls() {
   }
 }
 
-void FormBase::post_boxes() {
+void FormBase::store() {
   for (Control* control : controls_->all()) {
     if (auto* data = dynamic_cast<DataControl*>(control)) data->post();
   }
@@ -94,12 +94,13 @@ void FormBase::post_boxes() {
 
 void FormBase::Show() {
   reference();
-  const bool was_minimized = window_state_ == WindowState::minimized;
+  // The analyst may have minimised it, too.
+  const bool was_minimized = window_state_ == WindowState::minimized || window_->isMinimized();
   if (visible_ && !was_minimized) {
     window_->raise();
   } else {
     visible_ = true;
-    if (was_minimized) window_state_ = state_before_minimized_;
+    if (window_state_ == WindowState::minimized) window_state_ = state_before_minimized_;
     apply_window_state();
   }
   if (desktop_.mdi_area != nullptr) desktop_.mdi_area->setActiveSubWindow(window_);
@@ -143,7 +144,7 @@ void FormBase::set_caption(const std::string& caption) {
 
 void FormBase::Unload() {
   if (!loaded()) return;
-  post_boxes();
+  if (design_.stores_at_unload) store();
   remove();
 }
 
@@ -158,7 +159,9 @@ void FormBase::remove() {
   state_before_minimized_ = WindowState::normal;
   // A form is unloaded inside its own button's handler every day: the widgets must live until that handler
   // is back in the event loop, but nobody may find them meanwhile.
-  controls_.reset();
+  // Hiding moves the focus, and a control that notices must find neither its handlers nor a freed set.
+  const std::unique_ptr<ControlSet> controls = std::move(controls_);
+  for (Control* control : controls->all()) control->forget_handlers();
   FormWindow* window = std::exchange(window_, nullptr);
   window->disconnect();
   window->hide();

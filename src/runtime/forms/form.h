@@ -48,8 +48,11 @@ class FormBase {
   void Show();
   /// What a form does when code sets it not visible: a form that is not loaded is loaded hidden.
   void hide();
-  /// Stores what its bound boxes hold, then removes the form; a fault of the storing leaves it as it is.
+  /// Stores what its bound boxes hold, unless its design says otherwise, then removes the form; a fault of
+  /// the storing leaves it as it is.
   void Unload();
+  /// Stores what the bound boxes hold.
+  void store();
   /// Removes the form and drops what its boxes hold.
   void unload_without_storing();
   void set_window_state(WindowState state);
@@ -72,7 +75,6 @@ class FormBase {
   void build();
   void tie_events();
   void open_data_controls();
-  void post_boxes();
   void remove();
   void run_form_event(Event event);
   void apply_window_state();

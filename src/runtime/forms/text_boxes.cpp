@@ -63,6 +63,7 @@ void TextBox::set_text(const std::string& text) {
   {
     const QSignalBlocker blocker(&edit());
     edit().setText(qt(text));
+    edit().setToolTip(edit().text());  // a path may be longer than its box
   }
   changed = true;
   fire(Event::Change);
@@ -87,7 +88,7 @@ void TextBox::set_bold(bool bold) {
 void TextBox::show_value(const Value& value) {
   const QSignalBlocker blocker(&edit());
   edit().setText(qt(text::joined(value)));
-  edit().setToolTip(edit().text());  // a path may be longer than its box
+  edit().setToolTip(edit().text());
   changed = false;
 }
 
