@@ -1,0 +1,164 @@
+// Whatever goes wrong before the question: the analyst keeps the page with its picks, and nothing is told.
+#include "commuter_page.h"
+#include "ordinary_user.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace fs = std::filesystem;
+
+class CommuterFaults : public testing_aids::CommuterPage {
+ protected:
+  void expect_silent_retry(const std::string& open_files = "") {
+    press();
+    EXPECT_THAT(shown(), IsEmpty());
+    const std::string state = left();
+    EXPECT_THAT(state, ::testing::StartsWith("forms: Form3*"));
+    EXPECT_EQ(state.substr(state.find("\nopen")), "\nopen files:" + open_files + R"(
+new levels: 1
+directory: .
+picks: 7, output)" + (program.form3.DistrictFile.empty() ? "" : ", districts") +
+                                                      R"(
+menus: spec_CuCo spec_comm
+)");
+    EXPECT_EQ(program.form3.window_state(), runtime::forms::WindowState::maximized);
+    EXPECT_TRUE(analyst.can_use("Command11"));
+  }
+
+  /// The run stops without a word, and goes on once the reason is gone.
+  void expect_silent_retry_until(const std::function<void()>& mend, const std::string& open_files = "") {
+    expect_silent_retry(open_files);
+    mend();
+    press_and_answer({"No"});
+    EXPECT_THAT(shown(), ElementsAre(summary_of_sales));
+  }
+};
+
+TEST_F(CommuterFaults, a_missing_model_directory) {
+  make_ready();
+  fs::rename(app.file("commuter"), app.file("elsewhere"));
+  expect_silent_retry_until([&] { fs::rename(app.file("elsewhere"), app.file("commuter")); });
+}
+
+TEST_F(CommuterFaults, a_missing_model_directory_in_a_run_without_reliability) {
+  make_ready();
+  analyst.click("Option4(2)");
+  fs::rename(app.file("commuter"), app.file("elsewhere"));
+  expect_silent_retry_until([&] { fs::rename(app.file("elsewhere"), app.file("commuter")); });
+}
+
+TEST_F(CommuterFaults, a_pick_without_a_row_of_wages) {
+  make_ready();
+  app.sql("UPDATE commuter SET \"index\" = 70 WHERE \"index\" = 7");
+  expect_silent_retry_until([&] { app.sql("UPDATE commuter SET \"index\" = 7 WHERE \"index\" = 70"); });
+}
+
+TEST_F(CommuterFaults, an_empty_table_of_wages) {
+  make_ready();
+  app.sql("DELETE FROM commuter");
+  expect_silent_retry();
+}
+
+TEST_F(CommuterFaults, an_empty_table_of_speeds_with_sketch_planning_data) {
+  app.sql("DELETE FROM var_input");
+  make_ready();
+  expect_silent_retry_until([&] { analyst.click("Option4(2)"); });
+}
+
+TEST_F(CommuterFaults, an_empty_table_of_mode_shares) {
+  app.sql("DELETE FROM Commute_Param");
+  make_ready();
+  expect_silent_retry();
+}
+
+TEST_F(CommuterFaults, an_empty_table_of_time_files) {
+  app.sql("DELETE FROM timdist");
+  make_ready();
+  expect_silent_retry();
+}
+
+// The parameter form is loaded before the trap stands.
+TEST_F(CommuterFaults, a_table_of_parameters_that_is_gone_is_told) {
+  make_ready();
+  app.sql("DROP TABLE commuter");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("RuntimeError: Run-time error '3078':\n\n"
+                                   "The table 'commuter' was not found [stop sign, OK]"));
+  EXPECT_EQ(left(), R"(forms: Form3* Form2
+open files:
+new levels: 0
+directory: .
+picks: 7, output
+menus: spec_CuCo spec_comm
+)");
+}
+
+TEST_F(CommuterFaults, a_time_file_that_is_a_copy_onto_itself) {
+  app.put_file("commuter/Dist.txt", "kept");
+  app.sql("UPDATE timdist SET distance = 'commuter/Dist.txt'");
+  make_ready();
+  expect_silent_retry();
+  EXPECT_EQ(app.bytes("commuter/Dist.txt"), "kept");
+}
+
+// Every file that a run makes, and which number stays open when it cannot be opened or when the disk is full.
+struct ModelFile {
+  const char* name;
+  const char* open_when_refused = "";
+  const char* open_when_full = "";
+};
+
+void PrintTo(const ModelFile& file, std::ostream* stream) {
+  *stream << file.name;
+}
+
+class CommuterFaultsOfFile : public CommuterFaults, public ::testing::WithParamInterface<ModelFile> {
+ protected:
+  void make_ready_with_districts() {
+    make_ready();
+    analyst.click("Check1");
+    pick("Command7", "sample/districts.txt");
+  }
+
+  std::filesystem::path file() const { return app.file(std::string("commuter/") + GetParam().name); }
+};
+
+TEST_P(CommuterFaultsOfFile, a_directory_in_its_place) {
+  make_ready_with_districts();
+  fs::create_directory(file());
+  expect_silent_retry(GetParam().open_when_refused);
+}
+
+TEST_P(CommuterFaultsOfFile, a_full_disk) {
+  make_ready_with_districts();
+  fs::create_symlink("/dev/full", file());
+  expect_silent_retry(GetParam().open_when_full);
+}
+
+TEST_P(CommuterFaultsOfFile, one_that_is_not_to_be_changed) {
+  make_ready_with_districts();
+  testing_aids::put(file(), "old");
+  fs::permissions(file(), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  for (const char* name : {"commuter", "zelmor.mdb"}) fs::permissions(app.file(name), fs::perms::all);
+  const testing_aids::OrdinaryUser user;
+  if (!user) GTEST_SKIP() << "there is no ordinary user";
+  expect_silent_retry(GetParam().open_when_refused);
+  EXPECT_EQ(testing_aids::bytes_of(file()), "old");
+}
+
+INSTANTIATE_TEST_SUITE_P(, CommuterFaultsOfFile,
+                         ::testing::Values(ModelFile{"base_var.txt"}, ModelFile{"Dist.txt"},
+                                           ModelFile{"base_time.txt"}, ModelFile{"imp_time.txt"},
+                                           ModelFile{"sig7.txt"}, ModelFile{"wage7.txt"},
+                                           ModelFile{"outpar.txt", "", " 3"},
+                                           ModelFile{"ccpar.txt", "", " 3"}, ModelFile{"ccpar2.txt"},
+                                           ModelFile{"district.txt", " 3", " 3"},
+                                           ModelFile{"popemp7.txt", " 3", " 3"}, ModelFile{"costpar.txt"}),
+                         [](const auto& file) {
+                           const std::string name = file.param.name;
+                           return name.substr(0, name.find('.'));
+                         });
+
+}  // namespace
