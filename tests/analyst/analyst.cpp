@@ -178,7 +178,10 @@ void Analyst::choose(const std::string& item) {
 
 QWidget* Analyst::find(const std::string& name) const {
   if (main_window_.objectName() == qt(name)) return &main_window_;
-  return main_window_.findChild<QWidget*>(qt(name));
+  const auto all = main_window_.findChildren<QWidget*>(qt(name));
+  const auto seen = std::find_if(all.begin(), all.end(), [](auto* widget) { return widget->isVisible(); });
+  if (seen != all.end()) return *seen;
+  return all.isEmpty() ? nullptr : all.front();
 }
 
 bool Analyst::sees(const std::string& name) const {
