@@ -50,8 +50,8 @@ class Analyst : public QObject {
   /// Types into a box.
   void type(const std::string& control, const std::string& text);
 
-  /// The widget of that object name, nullptr when there is none. Forms share names, as "Command3", so one that
-  /// is to be seen comes before one on a hidden form.
+  /// The widget of that object name, nullptr when there is none. Forms share names, as "Command3", so one
+  /// that is to be seen comes before one on a hidden form.
   QWidget* find(const std::string& name) const;
   bool sees(const std::string& name) const;
   bool can_use(const std::string& name) const;

@@ -36,7 +36,7 @@ directory: .
 picks:
 menus: spec_CuCo spec_comm
 )");
-  EXPECT_TRUE(analyst.sees("Command1(1)"));
+  EXPECT_TRUE(analyst.sees("Command2"));
   EXPECT_FALSE(analyst.sees("Command11"));
   EXPECT_FALSE(analyst.sees("Command10(7)"));
   EXPECT_EQ(program.form3.caption(), "Form3");
