@@ -46,7 +46,9 @@ class DataControl : public Control {
 
  protected:
   QWidget* make_widget(QWidget* parent) override;
-  void created(const ControlDesign& design) override { table_ = design.binding.source; }
+  void created(const ControlDesign& design) override {
+    if (design.binding.source != nullptr) table_ = design.binding.source;
+  }
 
  private:
   struct BoundField {
