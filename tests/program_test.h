@@ -4,9 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-
 #include "analyst/analyst.h"
+#include "deferred_deletes.h"
 #include "event_table.h"
 #include "installation.h"
 
@@ -47,10 +46,7 @@ class ProgramTest : public ::testing::Test {
   analyst::Analyst analyst{program.mdiform1.window()};
 
  private:
-  /// Forms that were unloaded go when control is back in the event loop, which a test has none of.
-  struct DeferredDeletes {
-    ~DeferredDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-  } deferred_deletes_;
+  DeferredDeletes deferred_deletes_;
 };
 
 }  // namespace testing_aids
