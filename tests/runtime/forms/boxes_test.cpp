@@ -1,0 +1,143 @@
+#include <QMessageBox>
+
+#include "small_form.h"
+
+namespace {
+
+namespace rf = runtime::forms;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class Boxes : public testing_aids::SmallFormTest {
+ protected:
+  int answered(const std::string& button, int style) {
+    analyst.will_press(button);
+    return desktop.MsgBox("Words", style);
+  }
+  const analyst::Box& box() { return analyst.boxes().back(); }
+};
+
+TEST_F(Boxes, reply_with_the_platforms_numbers) {
+  EXPECT_EQ(answered("OK", rf::ok_only), 1);
+  EXPECT_EQ(answered("Yes", rf::yes_no), 6);
+  EXPECT_EQ(answered("No", rf::yes_no), 7);
+}
+
+TEST_F(Boxes, offer_the_buttons_of_their_style) {
+  answered("OK", rf::ok_only);
+  EXPECT_THAT(box().buttons, ElementsAre("OK"));
+  answered("Yes", rf::yes_no + rf::exclamation);
+  EXPECT_THAT(box().buttons, ElementsAre("Yes", "No"));
+}
+
+TEST_F(Boxes, have_no_icon_but_the_one_of_their_style) {
+  answered("OK", rf::ok_only);
+  EXPECT_EQ(box().icon, QMessageBox::NoIcon);
+  answered("No", rf::yes_no);
+  EXPECT_EQ(box().icon, QMessageBox::NoIcon);
+  answered("OK", rf::critical);
+  EXPECT_EQ(box().icon, QMessageBox::Critical);
+  answered("Yes", rf::yes_no + rf::question);
+  EXPECT_EQ(box().icon, QMessageBox::Question);
+  answered("OK", rf::exclamation);
+  EXPECT_EQ(box().icon, QMessageBox::Warning);
+}
+
+TEST_F(Boxes, bear_the_programs_name_unless_they_have_a_title) {
+  answered("OK", rf::ok_only);
+  EXPECT_EQ(box().name, "MsgBox");
+  EXPECT_EQ(box().title, "Quelar");
+  analyst.will_press("OK");
+  desktop.MsgBox("Words", rf::ok_only, "Own title");
+  EXPECT_EQ(box().title, "Own title");
+}
+
+TEST_F(Boxes, break_their_lines_at_each_kind_of_line_end) {
+  analyst.will_press("OK");
+  desktop.MsgBox("a\r\rb\nc\r\nd");
+  EXPECT_EQ(box().text, "a\n\nb\nc\nd");
+}
+
+TEST_F(Boxes, show_markup_as_plain_text) {
+  analyst.will_press("OK");
+  auto format = Qt::AutoText;
+  analyst.when_box_shows = [&](const analyst::Box&) {
+    format = window.findChild<QMessageBox*>(QStringLiteral("MsgBox"))->textFormat();
+  };
+  desktop.MsgBox("file <b>x</b> not found");
+  EXPECT_EQ(box().text, "file <b>x</b> not found");
+  EXPECT_EQ(format, Qt::PlainText);
+}
+
+TEST_F(Boxes, belong_to_the_main_window) {
+  analyst.will_press("OK");
+  QWidget* parent = nullptr;
+  analyst.when_box_shows = [&](const analyst::Box&) {
+    parent = window.findChild<QMessageBox*>(QStringLiteral("MsgBox"))->parentWidget();
+  };
+  desktop.MsgBox("Words");
+  EXPECT_EQ(parent, &window);
+}
+
+using RuntimeErrorReport = Boxes;
+
+TEST_F(RuntimeErrorReport, tells_number_and_words_and_the_program_goes_on) {
+  analyst.will_press("OK");
+  as_handler([] { throw runtime::Fault(76, "somewhere"); });
+  EXPECT_EQ(box().name, "RuntimeError");
+  EXPECT_EQ(box().text, "Run-time error '76':\n\nPath not found: somewhere");
+  EXPECT_EQ(box().icon, QMessageBox::Critical);
+  EXPECT_THAT(box().buttons, ElementsAre("OK"));
+  EXPECT_EQ(box().title, "Quelar");
+  bool went_on = false;
+  as_handler([&] { went_on = true; });
+  EXPECT_TRUE(went_on);
+}
+
+TEST_F(RuntimeErrorReport, keeps_what_the_handler_had_written) {
+  analyst.will_press("OK");
+  analyst.when_box_shows = [&](const analyst::Box&) {
+    EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("9"));
+  };
+  as_handler([&] {
+    auto database = desktop.workspace.OpenDatabase("zelmor.mdb");
+    desktop.workspace.BeginTrans();
+    database.Execute("update zones set numzones = 9");
+    throw runtime::Fault(6);
+  });
+  EXPECT_EQ(box().text, "Run-time error '6':\n\nOverflow");
+}
+
+TEST_F(RuntimeErrorReport, abandons_the_handler_at_the_fault) {
+  analyst.will_press("OK");
+  bool reached = false;
+  as_handler([&] {
+    runtime::fault_description(6);
+    desktop.files.ChDir("nosuch");
+    reached = true;
+  });
+  EXPECT_FALSE(reached);
+  EXPECT_EQ(box().text, "Run-time error '76':\n\nPath not found: nosuch");
+}
+
+TEST_F(RuntimeErrorReport, of_whatever_else_is_thrown_stops_at_the_edge) {
+  analyst.will_press("OK");
+  as_handler([] { throw std::logic_error("odd"); });
+  EXPECT_EQ(box().text, "Run-time error '51':\n\nInternal error: odd");
+  analyst.will_press("OK");
+  as_handler([] { throw std::bad_alloc(); });
+  EXPECT_EQ(box().text, "Run-time error '7':\n\nOut of memory");
+}
+
+TEST_F(RuntimeErrorReport, the_error_object_is_empty_after_each_handler) {
+  as_handler([&] { desktop.err.set(runtime::Fault(6)); });
+  EXPECT_EQ(desktop.err.number, 0);
+  EXPECT_EQ(desktop.err.description, "");
+}
+
+TEST_F(RuntimeErrorReport, is_not_shown_for_a_handler_without_a_fault) {
+  as_handler([] {});
+  EXPECT_THAT(analyst.boxes(), IsEmpty());
+}
+
+}  // namespace

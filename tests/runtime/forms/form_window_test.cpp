@@ -1,0 +1,151 @@
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include "small_form.h"
+
+namespace {
+
+namespace rf = runtime::forms;
+using rf::Event;
+using rf::Kind;
+using rf::no_index;
+using rf::WindowState;
+using testing_aids::row;
+using testing_aids::SmallForm;
+
+class FormWindows : public testing_aids::SmallFormTest {
+ protected:
+  QMdiSubWindow& frame_of(SmallForm& form) {
+    QWidget* widget = form.surface();
+    while (qobject_cast<QMdiSubWindow*>(widget) == nullptr) widget = widget->parentWidget();
+    return *qobject_cast<QMdiSubWindow*>(widget);
+  }
+
+  /// The control that lies on top at the middle of a place.
+  std::string on_top_of(const rf::Control& control) {
+    const QPoint middle = control.widget()->geometry().center();
+    return control.widget()->parentWidget()->childAt(middle)->objectName().toStdString();
+  }
+
+  SmallForm form{desktop,
+                 {
+                     row("Command1", 0, Kind::CommandButton, "Under", {0, 0, 1500, 375}),
+                     row("Command1", 1, Kind::CommandButton, "Wide", {0, 0, 3000, 375}),
+                     row("Label1", no_index, Kind::Label, "Label", {0, 600, 1500, 375}),
+                     row("Text1", 0, Kind::TextBox, "", {0, 1200, 1500, 375}),
+                     row("Command1", 2, Kind::CommandButton, "Far", {9000, 9000, 1500, 375}),
+                 }};
+};
+
+TEST_F(FormWindows, a_control_that_lies_wholly_under_another_takes_no_focus) {
+  form.Show();
+  EXPECT_EQ(analyst.find("Command1(0)")->focusPolicy(), Qt::NoFocus);
+  EXPECT_NE(analyst.find("Command1(1)")->focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(FormWindows, a_control_that_is_uncovered_takes_the_focus_again) {
+  form->Command1(1).set_visible(false);
+  EXPECT_NE(form->Command1(0).widget()->focusPolicy(), Qt::NoFocus);
+  form->Command1(1).set_visible(true);
+  EXPECT_EQ(form->Command1(0).widget()->focusPolicy(), Qt::NoFocus);
+  form->Command1(1).set_left(600);
+  EXPECT_NE(form->Command1(0).widget()->focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(FormWindows, of_overlapping_controls_the_one_shown_last_lies_on_top) {
+  form.Show();
+  EXPECT_EQ(on_top_of(form->Command1(0)), "Command1(1)");
+  form->Command1(0).set_visible(true);
+  EXPECT_EQ(on_top_of(form->Command1(0)), "Command1(0)");
+}
+
+TEST_F(FormWindows, a_label_lies_under_boxes_and_buttons_also_when_it_was_shown_last) {
+  form.Show();
+  form->Label1.set_place(form->Text1(0).place());
+  form->Label1.set_visible(false);
+  form->Label1.set_visible(true);
+  EXPECT_EQ(on_top_of(form->Text1(0)), "Text1(0)");
+}
+
+TEST_F(FormWindows, a_form_scrolls_to_its_last_control_when_its_window_is_too_small) {
+  form.set_window_state(WindowState::maximized);
+  form.Show();
+  window.resize(300, 200);
+  QTest::qWait(0);
+  auto* scroll = frame_of(form).findChild<QScrollArea*>();
+  QWidget* far = analyst.find("Command1(2)");
+  EXPECT_TRUE(far->visibleRegion().isEmpty());
+  scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->maximum());
+  scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
+  EXPECT_EQ(far->visibleRegion().boundingRect(), far->rect());
+}
+
+TEST_F(FormWindows, a_form_whose_controls_fit_does_not_scroll) {
+  form->Command1(2).set_visible(false);
+  form.Show();
+  QTest::qWait(0);
+  auto* scroll = frame_of(form).findChild<QScrollArea*>();
+  EXPECT_EQ(scroll->verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(scroll->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(FormWindows, a_form_has_no_close_box_and_no_system_menu) {
+  form.Show();
+  EXPECT_FALSE(frame_of(form).windowFlags().testFlag(Qt::WindowCloseButtonHint));
+  EXPECT_EQ(frame_of(form).systemMenu(), nullptr);
+}
+
+TEST_F(FormWindows, no_key_and_no_close_request_closes_a_form) {
+  form.Show();
+  for (const auto key : {Qt::Key_W, Qt::Key_F4, Qt::Key_Q}) {
+    QTest::keyClick(analyst.find("Text1(0)"), key, Qt::ControlModifier);
+    QTest::keyClick(&frame_of(form), key, Qt::ControlModifier);
+  }
+  QTest::keyClick(analyst.find("Text1(0)"), Qt::Key_Escape);
+  frame_of(form).close();
+  EXPECT_TRUE(form.loaded());
+  EXPECT_TRUE(analyst.sees("Small"));
+}
+
+TEST_F(FormWindows, a_maximised_form_puts_no_window_buttons_beside_the_menu) {
+  form.set_window_state(WindowState::maximized);
+  form.Show();
+  QTest::qWait(0);
+  for (const auto corner : {Qt::TopLeftCorner, Qt::TopRightCorner}) {
+    const QWidget* buttons = window.menuBar()->cornerWidget(corner);
+    EXPECT_TRUE(buttons == nullptr || !buttons->isVisible());
+  }
+}
+
+TEST_F(FormWindows, the_form_below_is_active_again_after_an_unload) {
+  SmallForm other(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Other");
+  other.Show();
+  form.Show();
+  EXPECT_TRUE(desktop.mdi_area->activeSubWindow() == &frame_of(form));
+  form.Unload();
+  EXPECT_TRUE(desktop.mdi_area->activeSubWindow() == &frame_of(other));
+}
+
+TEST_F(FormWindows, showing_a_form_normal_keeps_another_one_maximised) {
+  SmallForm other(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Other");
+  other.set_window_state(WindowState::maximized);
+  other.Show();
+  form.Show();
+  EXPECT_FALSE(frame_of(form).isMaximized());
+  EXPECT_TRUE(frame_of(other).isMaximized());
+}
+
+TEST_F(FormWindows, a_resized_form_hears_of_it) {
+  form.set_events({{"", Event::Resize, [this](int) { ++form.heard.times; }}});
+  form.Show();
+  form.heard = {};
+  frame_of(form).resize(300, 200);
+  EXPECT_GE(form.heard.times, 1);
+}
+
+}  // namespace
