@@ -29,6 +29,13 @@ class MaskedLineEdit : public QLineEdit {
   }
 };
 
+/// A path may be longer than its box, so the tool tip holds all of it.
+void show_text(QLineEdit& edit, const std::string& text) {
+  const QSignalBlocker blocker(&edit);
+  edit.setText(qt(text));
+  edit.setToolTip(edit.text());
+}
+
 /// A disabled box still shows a path that must be read, so its text is dimmed less than the desktop would.
 void keep_readable_when_disabled(QWidget& widget) {
   QPalette palette = widget.palette();
@@ -60,11 +67,7 @@ std::string TextBox::text() const {
 
 void TextBox::set_text(const std::string& text) {
   if (text == this->text()) return;
-  {
-    const QSignalBlocker blocker(&edit());
-    edit().setText(qt(text));
-    edit().setToolTip(edit().text());  // a path may be longer than its box
-  }
+  show_text(edit(), text);
   changed = true;
   fire(Event::Change);
 }
@@ -86,9 +89,7 @@ void TextBox::set_bold(bool bold) {
 }
 
 void TextBox::show_value(const Value& value) {
-  const QSignalBlocker blocker(&edit());
-  edit().setText(qt(text::joined(value)));
-  edit().setToolTip(edit().text());
+  show_text(edit(), text::joined(value));
   changed = false;
 }
 

@@ -163,6 +163,13 @@ TEST_F(Controls, a_locked_box_takes_no_key_and_a_disabled_button_no_click) {
   EXPECT_EQ(form.heard.times, 0);
 }
 
+TEST_F(Controls, the_tool_tip_of_a_text_box_holds_the_text_that_code_set_last) {
+  form->Text1(0).show_value("results/stored.txt");
+  EXPECT_EQ(form->Text1(0).widget()->toolTip().toStdString(), "results/stored.txt");
+  form->Text1(0).set_text("results/picked.txt");
+  EXPECT_EQ(form->Text1(0).widget()->toolTip().toStdString(), "results/picked.txt");
+}
+
 TEST_F(Controls, a_small_font_size_is_kept_and_drawn_legibly) {
   form->Text1(0).set_font_size(3);
   EXPECT_EQ(form->Text1(0).font_size(), 3);
