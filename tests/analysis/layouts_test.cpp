@@ -1,0 +1,195 @@
+#include <QWidget>
+
+#include "program_test.h"
+
+namespace {
+
+using runtime::forms::Kind;
+using ::testing::IsEmpty;
+
+constexpr const char* no_zones = "The number of zones for this analysis has not been specified!";
+
+class Layouts : public testing_aids::ProgramTest {
+ protected:
+  /// Every control that can be seen, in the order of the design: name, caption, left, top, width, height in
+  /// twips of its container, and whether it is disabled. Frame1 counts its own corner.
+  std::string drawing() {
+    std::string lines;
+    for (const auto* control : program.form3->all()) {
+      if (!control->widget()->isVisible()) continue;
+      lines += control->full_name();
+      if (control->kind() != Kind::TextBox && control->kind() != Kind::Line) {
+        lines += " \"" + control->caption() + '"';
+      }
+      for (const int number : {control->left(), control->top(), control->width(), control->height()}) {
+        lines += ' ' + std::to_string(number);
+      }
+      lines += control->is_enabled() ? "\n" : " disabled\n";
+    }
+    return lines;
+  }
+};
+
+using TimeAndDistancePage = Layouts;
+
+TEST_F(TimeAndDistancePage, stands_as_laid_out) {
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(drawing(), R"(Label2 "" 6840 1920 255 255
+Text1(5) 0 400 4335 371 disabled
+Command4(5) "Distance File" 4440 400 2175 375
+Text1(6) 0 800 4335 371 disabled
+Command4(6) "Base Time File" 4440 800 2175 375
+Text1(7) 0 1200 4335 371 disabled
+Command4(7) "Improvement Time File" 4440 1200 2175 375
+Frame1 "Save or Quit" 0 1661 6510 1830
+Line2 120 1250 2520 30
+Line3 2640 1250 3720 30
+Command8 "Save" 1200 1350 1335 375
+Command3 "Quit" 2635 1350 1335 375
+)");
+  EXPECT_EQ(program.form3.caption(), "Specify Time and Distance Files");
+  EXPECT_TRUE(program.form3.visible());
+}
+
+TEST_F(TimeAndDistancePage, gives_the_second_save_the_place_of_the_run_button_and_leaves_it_hidden) {
+  analyst.choose("spec_timdist");
+  const auto& place = program.form3->Command6.place();
+  EXPECT_EQ(place.left, 120);
+  EXPECT_EQ(place.top, 1350);
+  EXPECT_EQ(place.width, 2640);
+  EXPECT_EQ(place.height, 375);
+  EXPECT_FALSE(program.form3->Command6.visible());
+}
+
+TEST_F(TimeAndDistancePage, without_zones_shows_the_box_and_leaves_the_menus_off) {
+  app.sql("update zones set numzones = 0");
+  analyst.will_press("OK");
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(last_box(), no_zones);
+  EXPECT_FALSE(program.form3.loaded());
+  EXPECT_FALSE(program.form2.visible());
+  EXPECT_FALSE(analyst.item_enabled("Inputs"));
+  EXPECT_FALSE(analyst.item_enabled("Run"));
+  EXPECT_TRUE(analyst.item_enabled("Mnu_exit"));
+}
+
+TEST_F(TimeAndDistancePage, takes_a_number_of_zones_that_is_null_for_none) {
+  app.sql("update zones set numzones = null");
+  analyst.will_press("OK");
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(last_box(), no_zones);
+}
+
+TEST_F(TimeAndDistancePage, its_pick_buttons_are_disabled_by_a_good_pick_until_it_is_opened_again) {
+  analyst.choose("spec_timdist");
+  pick("Command4(5)", "sample/distance.txt");
+  EXPECT_TRUE(analyst.sees("Command4(5)"));
+  EXPECT_FALSE(analyst.can_use("Command4(5)"));
+  EXPECT_TRUE(analyst.can_use("Command4(6)"));
+  analyst.click("Command3");
+  analyst.choose("spec_timdist");
+  EXPECT_TRUE(analyst.can_use("Command4(5)"));
+}
+
+using CommuterPage = Layouts;
+
+TEST_F(CommuterPage, stands_as_laid_out) {
+  open_commuter_page();
+  EXPECT_EQ(drawing(), R"(Label2 "commute" 6840 1920 255 255
+Command5 "Output File" 4440 2580 2175 290
+Text5(0) 0 0 4335 315 disabled
+Command10(0) "Precision Production" 4440 0 2935 315
+Text5(1) 0 320 4335 315 disabled
+Command10(1) "Transportation" 4440 320 2935 315
+Text5(2) 0 640 4335 315 disabled
+Command10(2) "Executive,Admin,Managerial" 4440 640 2935 315
+Text5(3) 0 960 4335 315 disabled
+Command10(3) "Technician" 4440 960 2935 315
+Text5(4) 0 1280 4335 315 disabled
+Command10(4) "Operators,Assemblers,Inspectors" 4440 1280 2935 315
+Text5(5) 0 1600 4335 315 disabled
+Command10(5) "Protective Services" 4440 1600 2935 315
+Text5(6) 0 1920 4335 315 disabled
+Command10(6) "Handlers,Cleaners,Laborers" 4440 1920 2935 315
+Text5(7) 0 2240 4335 315 disabled
+Command10(7) "Sales" 4440 2240 2935 315
+Text5(8) 0 2560 4335 315 disabled
+Command10(8) "Professional Specialty" 4440 2560 2935 315
+Text5(9) 0 2880 4335 315 disabled
+Command10(9) "Admin Support" 4440 2880 2935 315
+Text5(10) 0 3200 4335 315 disabled
+Command10(10) "Private Household Services" 4440 3200 2935 315
+Text5(11) 0 3520 4335 315 disabled
+Command10(11) "Other Services" 4440 3520 2935 315
+Text6 0 3841 4335 315 disabled
+Command12 "Output File" 4440 3841 2935 315
+Frame1 "Options" 0 4800 7270 1830
+Label1 "Reliability " 120 200 2460 230
+Option4(0) "Use Sketch-Planning Data" 120 430 2460 260
+Option4(1) "Supply Reliability File" 120 695 2460 260
+Option4(2) "Don't Use in Analysis" 120 960 2460 260
+Line1 2640 260 30 990
+Check1 "Use District File?" 2880 430 2460 260
+Line2 120 1250 2520 30
+Line3 2640 1250 3720 30
+Command11 "Run Commuter Analysis" 120 1350 2640 375
+Command3 "Quit" 4320 1350 1335 375
+)");
+  EXPECT_EQ(program.form3.caption(), "Perform Commuter Cost Analysis");
+}
+
+TEST_F(CommuterPage, asks_for_font_size_3_in_the_occupation_rows_and_in_no_other) {
+  open_commuter_page();
+  std::string small;
+  for (const auto* control : program.form3->all()) {
+    if (control->font_size() == 3) small += control->full_name() + ' ';
+  }
+  EXPECT_EQ(small,
+            "Text5(0) Command10(0) Text5(1) Command10(1) Text5(2) Command10(2) Text5(3) Command10(3) "
+            "Text5(4) Command10(4) Text5(5) Command10(5) Text5(6) Command10(6) Text5(7) Command10(7) "
+            "Text5(8) Command10(8) Text5(9) Command10(9) Text5(10) Command10(10) Text5(11) Command10(11) ");
+}
+
+TEST_F(CommuterPage, the_output_button_of_the_other_market_lies_beneath_an_occupation_and_takes_no_focus) {
+  open_commuter_page();
+  EXPECT_EQ(analyst.find("Command5")->focusPolicy(), Qt::NoFocus);
+  const QRect place = analyst.find("Command5")->geometry();
+  for (const QPoint corner : {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
+    EXPECT_EQ(program.form3.surface()->childAt(corner), analyst.find("Command10(8)"));
+  }
+}
+
+TEST_F(CommuterPage, gives_its_thirteenth_button_a_caption_that_is_never_seen) {
+  open_commuter_page();
+  EXPECT_EQ(program.form3->Command10(12).caption(), "Output File Name");
+  EXPECT_FALSE(analyst.sees("Command10(12)"));
+}
+
+TEST_F(CommuterPage, without_zones_shows_the_box_and_leaves_the_menus_off) {
+  analyst.choose("spec_timdist");
+  analyst.will_press("Yes");
+  analyst.click("Command8");
+  app.sql("update zones set numzones = 0");
+  analyst.will_press("OK");
+  analyst.choose("spec_comm");
+  EXPECT_EQ(last_box(), no_zones);
+  EXPECT_FALSE(program.form3.loaded());
+  EXPECT_FALSE(program.form2.visible());
+  EXPECT_FALSE(analyst.item_enabled("Inputs"));
+  EXPECT_FALSE(analyst.item_enabled("Run"));
+  EXPECT_TRUE(analyst.item_enabled("Mnu_exit"));
+}
+
+TEST_F(CommuterPage, comes_as_designed_after_the_other_page) {
+  open_commuter_page();
+  const std::string first = drawing();
+  analyst.click("Command3");
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(program.form3->Label2.caption(), "");
+  analyst.will_press("Yes");
+  analyst.click("Command8");
+  analyst.choose("spec_comm");
+  EXPECT_EQ(drawing(), first);
+}
+
+}  // namespace
