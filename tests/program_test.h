@@ -39,7 +39,7 @@ class ProgramTest : public ::testing::Test {
   }
 
   /// The text of the last box that was shown.
-  std::string last_box() const { return analyst.boxes().empty() ? "(none)" : analyst.boxes().back().text; }
+  std::string last_box() const { return analyst.last_box().text; }
 
   Installation app;
   forms::Program program{app.path()};

@@ -159,7 +159,7 @@ TEST_F(TripPick, after_a_last_occupation_3_10_or_11_addresses_a_box_that_does_no
     analyst.click("Command1(1)");
     EXPECT_THAT(analyst.texts(),
                 ElementsAre("Control array element '" + std::to_string(last) + "' does not exist"));
-    EXPECT_EQ(analyst.boxes().back().name, "MsgBox");
+    EXPECT_EQ(analyst.last_box().name, "MsgBox");
   }
   EXPECT_EQ(program.form3.PickCount, 0);
   EXPECT_TRUE(program.form3->Command1(1).is_enabled());

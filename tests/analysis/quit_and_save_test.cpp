@@ -50,8 +50,8 @@ TEST_F(Save, names_the_boxes_one_place_off) {
             "The ImprovementTime File is the base\n\n"
             "The Distance File is the improvement\n\n"
             "Do you wish to continue?");
-  EXPECT_THAT(analyst.boxes().back().buttons, ElementsAre("Yes", "No"));
-  EXPECT_EQ(analyst.boxes().back().icon, 0);
+  EXPECT_THAT(analyst.last_box().buttons, ElementsAre("Yes", "No"));
+  EXPECT_EQ(analyst.last_box().icon, 0);
 }
 
 TEST_F(Save, answered_no_leaves_the_page_up) {

@@ -60,6 +60,8 @@ class Analyst : public QObject {
 
   const std::vector<Box>& boxes() const { return boxes_; }
   std::vector<std::string> texts() const;
+  /// The last box that came up, one without a word when there was none.
+  Box last_box() const { return boxes_.empty() ? Box{} : boxes_.back(); }
   /// What went otherwise than planned: a box that nobody expected, a control that could not be clicked,
   /// an answer that was never asked for.
   std::vector<std::string> complaints() const;

@@ -152,7 +152,7 @@ class CheckFileName : public Module1 {
     analyst.will_press("OK");
     return check(given);
   }
-  const analyst::Box& box() { return analyst.boxes().back(); }
+  analyst::Box box() { return analyst.last_box(); }
 
   std::string name;
 };
@@ -244,7 +244,7 @@ TEST_F(CheckIntegerKey, empties_a_box_whose_text_ends_in_a_letter_and_says_so_tw
   analyst.will_press("OK");
   type(2, "a");
   EXPECT_THAT(analyst.texts(), ElementsAre(message, message));
-  EXPECT_EQ(analyst.boxes().back().icon, QMessageBox::Critical);
+  EXPECT_EQ(analyst.last_box().icon, QMessageBox::Critical);
   EXPECT_EQ(text(2), "");
 }
 

@@ -146,7 +146,7 @@ TEST_F(CloseBox, a_fault_of_the_storing_keeps_the_program_and_the_form) {
   type_zones("99");
   analyst.will_press("OK");
   EXPECT_EQ(press_close_box(), goes_on);
-  EXPECT_EQ(analyst.boxes().back().name, "RuntimeError");
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
   EXPECT_TRUE(program.form2.loaded());
   EXPECT_EQ(program.form2->MaskEdBox1.text(), "99__");
   app.sql("drop trigger refuse");

@@ -14,7 +14,7 @@ class Boxes : public testing_aids::SmallFormTest {
     analyst.will_press(button);
     return desktop.MsgBox("Words", style);
   }
-  const analyst::Box& box() { return analyst.boxes().back(); }
+  analyst::Box box() { return analyst.last_box(); }
 };
 
 TEST_F(Boxes, reply_with_the_platforms_numbers) {
@@ -112,7 +112,6 @@ TEST_F(RuntimeErrorReport, abandons_the_handler_at_the_fault) {
   analyst.will_press("OK");
   bool reached = false;
   as_handler([&] {
-    runtime::fault_description(6);
     desktop.files.ChDir("nosuch");
     reached = true;
   });

@@ -28,7 +28,7 @@ class FileDialog : public testing_aids::SmallFormTest {
   }
 
   CommonDialog& dialog() { return form->cdbox1; }
-  const analyst::Box& seen() { return analyst.boxes().back(); }
+  analyst::Box seen() { return analyst.last_box(); }
   std::string path(const std::string& name) { return app.file(name).string(); }
 
   void choose(const std::string& typed) {

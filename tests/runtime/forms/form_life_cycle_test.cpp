@@ -125,7 +125,7 @@ TEST_F(FormLifeCycle, a_fault_of_the_load_handler_leaves_it_unloaded) {
 
 TEST_F(FormLifeCycle, a_data_control_that_cannot_open_leaves_it_unloaded_and_unshown) {
   SmallForm bound(desktop, {data_row(0, "nosuch")}, "Bound");
-  EXPECT_NE(fault_of([&] { bound.Show(); }), 0);
+  EXPECT_EQ(fault_of([&] { bound.Show(); }), 3078);
   EXPECT_FALSE(bound.loaded());
   EXPECT_FALSE(bound.visible());
 }

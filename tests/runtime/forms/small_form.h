@@ -100,7 +100,7 @@ class SmallFormTest : public ::testing::Test {
 
   void as_handler(const std::function<void()>& code) { desktop.run_event(code); }
 
-  std::string last_box() const { return analyst.boxes().empty() ? "(none)" : analyst.boxes().back().text; }
+  std::string last_box() const { return analyst.last_box().text; }
 
   static constexpr std::array menu{rf::MenuDesign{1, "Only", "Only", true}};
 
