@@ -103,6 +103,15 @@ TEST_F(CommuterFaults, a_time_file_that_is_a_copy_onto_itself) {
   EXPECT_EQ(app.bytes("commuter/Dist.txt"), "kept");
 }
 
+TEST_F(CommuterFaults, an_occupation_file_that_may_not_be_read) {
+  make_ready();
+  fs::permissions(app.file(sales), fs::perms::none);
+  for (const char* name : {"commuter", "zelmor.mdb"}) fs::permissions(app.file(name), fs::perms::all);
+  const testing_aids::OrdinaryUser user;
+  if (!user) GTEST_SKIP() << "there is no ordinary user";
+  expect_silent_retry(" 3");
+}
+
 // Every file that a run makes, and which number stays open when it cannot be opened or when the disk is full.
 struct ModelFile {
   const char* name;

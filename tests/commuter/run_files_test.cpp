@@ -1,4 +1,6 @@
 // The files that stand in the model directory when the run asks its question.
+#include <locale>
+
 #include "commuter_page.h"
 
 namespace {
@@ -177,6 +179,38 @@ TEST_F(CommuterFiles, keep_a_negative_parameter_apart_from_the_one_before) {
   make_files();
   EXPECT_EQ(app.bytes("commuter/costpar.txt"),
             " .25          -1 \r\n0              .7629 -.5  .1394  .0048 \r\n");
+}
+
+/// A country where numbers have a comma, in the C library and in streams, as long as it lives.
+class CommaLocale {
+ public:
+  CommaLocale() {
+    try {
+      std::locale::global(std::locale("de_DE.UTF-8"));
+      is_there_ = true;
+    } catch (const std::runtime_error&) {
+      is_there_ = false;  // not every machine has it
+    }
+  }
+  CommaLocale(const CommaLocale&) = delete;
+  CommaLocale& operator=(const CommaLocale&) = delete;
+  ~CommaLocale() { std::locale::global(before_); }
+
+  bool is_there() const { return is_there_; }
+
+ private:
+  std::locale before_;
+  bool is_there_ = false;
+};
+
+TEST_F(CommuterFiles, hold_points_where_the_country_writes_commas) {
+  const CommaLocale locale;
+  if (!locale.is_there()) GTEST_SKIP() << "there is no comma locale";
+  app.sql("UPDATE commuter SET wage = 12345.5");
+  make_ready();
+  make_files();
+  EXPECT_EQ(app.bytes("commuter/wage7.txt"), " 12345.5 \r\n");
+  EXPECT_EQ(app.bytes("commuter/base_var.txt"), " 38            .42 \r\n");
 }
 
 TEST_F(CommuterFiles, of_the_improvement_speeds_come_only_with_the_run) {
