@@ -57,7 +57,7 @@ class AnalystPlugin : public QGenericPlugin {
 
  public:
   QObject* create(const QString&, const QString&) override {
-    QTimer::singleShot(0, qApp, play);
+    QTimer::singleShot(0, qApp, [] { play(); });
     return new QObject;
   }
 };
