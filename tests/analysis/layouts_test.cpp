@@ -41,11 +41,11 @@ Text1(6) 0 800 4335 371 disabled
 Command4(6) "Base Time File" 4440 800 2175 375
 Text1(7) 0 1200 4335 371 disabled
 Command4(7) "Improvement Time File" 4440 1200 2175 375
-Frame1 "Save or Quit" 0 1661 6510 1830
-Line2 120 1250 2520 30
-Line3 2640 1250 3720 30
-Command8 "Save" 1200 1350 1335 375
-Command3 "Quit" 2635 1350 1335 375
+Frame1 "Save or Quit" 0 1661 6510 1600
+Line2 120 330 6270 30
+Line3 120 1500 6270 30
+Command8 "Save" 1200 880 1020 375
+Command3 "Quit" 2320 880 1020 375
 )");
   EXPECT_EQ(program.form3.caption(), "Specify Time and Distance Files");
   EXPECT_TRUE(program.form3.visible());
@@ -54,9 +54,9 @@ Command3 "Quit" 2635 1350 1335 375
 TEST_F(TimeAndDistancePage, gives_the_second_save_the_place_of_the_run_button_and_leaves_it_hidden) {
   analyst.choose("spec_timdist");
   const auto& place = program.form3->Command6.place();
-  EXPECT_EQ(place.left, 120);
-  EXPECT_EQ(place.top, 1350);
-  EXPECT_EQ(place.width, 2640);
+  EXPECT_EQ(place.left, 2880);
+  EXPECT_EQ(place.top, 880);
+  EXPECT_EQ(place.width, 2340);
   EXPECT_EQ(place.height, 375);
   EXPECT_FALSE(program.form3->Command6.visible());
 }
@@ -123,17 +123,17 @@ Text5(11) 0 3520 4335 315 disabled
 Command10(11) "Other Services" 4440 3520 2935 315
 Text6 0 3841 4335 315 disabled
 Command12 "Output File" 4440 3841 2935 315
-Frame1 "Options" 0 4800 7270 1830
-Label1 "Reliability " 120 200 2460 230
-Option4(0) "Use Sketch-Planning Data" 120 430 2460 260
-Option4(1) "Supply Reliability File" 120 695 2460 260
-Option4(2) "Don't Use in Analysis" 120 960 2460 260
-Line1 2640 260 30 990
-Check1 "Use District File?" 2880 430 2460 260
-Line2 120 1250 2520 30
-Line3 2640 1250 3720 30
-Command11 "Run Commuter Analysis" 120 1350 2640 375
-Command3 "Quit" 4320 1350 1335 375
+Frame1 "Options" 0 4800 7270 1600
+Label1 "Reliability " 120 390 2460 230
+Option4(0) "Use Sketch-Planning Data" 120 630 2460 250
+Option4(1) "Supply Reliability File" 120 890 2460 250
+Option4(2) "Don't Use in Analysis" 120 1150 2460 250
+Line1 2640 420 30 1000
+Check1 "Use District File?" 2880 450 2340 260
+Line2 120 330 6270 30
+Line3 120 1500 6270 30
+Command11 "Run Commuter Analysis" 2880 880 2340 375
+Command3 "Quit" 5340 880 1020 375
 )");
   EXPECT_EQ(program.form3.caption(), "Perform Commuter Cost Analysis");
 }

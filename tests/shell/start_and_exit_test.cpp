@@ -33,9 +33,9 @@ class StartAndExit : public testing_aids::ProgramTest {
   int press_close_box() {
     return in_event_loop([this] { program.mdiform1.window().close(); });
   }
-  /// From now on the number of zones can't be stored.
-  void refuse_zones() {
-    app.sql("create trigger refuse before update on zones begin select raise(abort, 'refused'); end");
+  /// From now on the paths of the time and distance files can't be stored.
+  void refuse_paths() {
+    app.sql("create trigger refuse before update on timdist begin select raise(abort, 'refused'); end");
   }
   void type_zones(const std::string& digits) {
     auto* box = qobject_cast<QWidget*>(analyst.find("MaskEdBox1"));
@@ -44,6 +44,7 @@ class StartAndExit : public testing_aids::ProgramTest {
     analyst.type("MaskEdBox1", digits);
   }
   std::vector<std::string> zones() { return app.rows("select numzones from zones"); }
+  std::vector<std::string> distance() { return app.rows("select distance from timdist"); }
 };
 
 using Start = StartAndExit;
@@ -133,37 +134,44 @@ TEST_F(CloseBox, ends_the_program) {
 
 TEST_F(CloseBox, unloads_every_form_and_stores_what_they_hold) {
   program.form1.hide();
+  program.form3.Show();
+  program.form3->Text1(5).set_text("stored.txt");
+  EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(program.desktop.loaded_forms, IsEmpty());
+  EXPECT_THAT(distance(), ElementsAre("stored.txt"));
+}
+
+TEST_F(CloseBox, drops_a_number_of_zones_that_was_not_saved) {
   program.form2.Show();
   type_zones("99");
   EXPECT_EQ(press_close_box(), 0);
-  EXPECT_THAT(program.desktop.loaded_forms, IsEmpty());
-  EXPECT_THAT(zones(), ElementsAre("99"));
+  EXPECT_THAT(zones(), ElementsAre("24"));
 }
 
 TEST_F(CloseBox, a_fault_of_the_storing_keeps_the_program_and_the_form) {
-  refuse_zones();
-  program.form2.Show();
-  type_zones("99");
+  refuse_paths();
+  program.form3.Show();
+  program.form3->Text1(5).set_text("stored.txt");
   analyst.will_press("OK");
   EXPECT_EQ(press_close_box(), goes_on);
   EXPECT_EQ(analyst.last_box().name, "RuntimeError");
-  EXPECT_TRUE(program.form2.loaded());
-  EXPECT_EQ(program.form2->MaskEdBox1.text(), "99__");
+  EXPECT_TRUE(program.form3.loaded());
+  EXPECT_EQ(program.form3->Text1(5).text(), "stored.txt");
   app.sql("drop trigger refuse");
   EXPECT_EQ(press_close_box(), 0);
-  EXPECT_THAT(zones(), ElementsAre("99"));
+  EXPECT_THAT(distance(), ElementsAre("stored.txt"));
 }
 
 TEST_F(CloseBox, unloads_the_forms_in_the_order_in_which_they_were_loaded) {
-  refuse_zones();
-  program.form1.hide();
-  program.form2.Show();
+  refuse_paths();
   program.form3.set_events({});
-  program.form3.hide();
-  type_zones("99");
+  program.form1.hide();
+  program.form3.Show();
+  program.form2.hide();
+  program.form3->Text1(5).set_text("stored.txt");
   analyst.will_press("OK");
   EXPECT_EQ(press_close_box(), goes_on);
-  EXPECT_THAT(program.desktop.loaded_forms, ElementsAre(&program.form2, &program.form3));
+  EXPECT_THAT(program.desktop.loaded_forms, ElementsAre(&program.form3, &program.form2));
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ inline rf::ControlDesign data_row(int index, const char* table) {
 /// Owns the design that its form refers to.
 struct SmallDesign {
   SmallDesign(const char* name, Rows design_rows, bool appears_at_load)
-      : rows(std::move(design_rows)), design{name, "Small form", 4500, 3000, appears_at_load, rows} {}
+      : rows(std::move(design_rows)), design{name, "Small form", 4500, 3000, appears_at_load, true, rows} {}
   Rows rows;
   rf::FormDesign design;
 };
