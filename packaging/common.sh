@@ -5,6 +5,8 @@ screen_packages=(xvfb xauth)  # a virtual screen, for the demonstration and the 
 test_packages=(libgtest-dev libgmock-dev python3 clang-format locales ccache)
 bench_packages=(libbenchmark-dev time)
 
+export CCACHE_SLOPPINESS=pch_defines,time_macros  # without it headers that are compiled once are never found again
+
 say() { printf '%s\n' "$*"; }
 give_up() { printf '%s\n' "$*" >&2; exit 1; }
 
@@ -34,6 +36,7 @@ build() {
   shift
   cmake --preset "$preset" >"$top/configure.log" 2>&1 || { cat "$top/configure.log"; rm -f "$top/configure.log"; exit 1; }
   rm -f "$top/configure.log"
+  say "Building ($preset); the first time this takes some minutes."
   cmake --build --preset "$preset" -- --quiet ${1:+"$@"}
 }
 
