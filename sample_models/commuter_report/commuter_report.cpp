@@ -155,7 +155,7 @@ std::string result_section(const Study& study) {
   text += "The improvement " + std::string(saves ? "saves" : "costs") + " the commuters of the study " +
           grouped(std::abs(all.benefit()), 2) + " dollars per working day";
   const double each = std::abs(all.benefit()) / all.base.commuters;
-  return text + ", " + grouped(each, 2) + " for each of them.\n";
+  return text + ", " + grouped(each, 2) + " dollars for each of them.\n";
 }
 
 }  // namespace
@@ -166,7 +166,9 @@ std::string report_text(const Study& study) {
       "\n"
       "Miles and minutes are means over the commuters, one way. Costs are those of one working day, both\n"
       "ways, in dollars: time, cars, fares and the loss of being tied to near workplaces. The benefit is\n"
-      "the base case's cost less the improvement case's.\n\n" +
+      "the base case's cost less the improvement case's, rounded after the subtraction. Where a faster way\n"
+      "opens farther workplaces, people travel farther: mean miles may rise.\n\n"
+      "These figures come from the sample models, which are stand-ins and not calibrated.\n\n" +
       study_section(study) + '\n' + occupation_parameters_section(study) + '\n' + occupation_section(study) +
       '\n';
   if (study.districts > 0) text += district_section(study) + '\n';

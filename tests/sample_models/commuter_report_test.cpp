@@ -38,7 +38,10 @@ const std::string heading = R"(What commuting costs, and what the improvement is
 
 Miles and minutes are means over the commuters, one way. Costs are those of one working day, both
 ways, in dollars: time, cars, fares and the loss of being tied to near workplaces. The benefit is
-the base case's cost less the improvement case's.
+the base case's cost less the improvement case's, rounded after the subtraction. Where a faster way
+opens farther workplaces, people travel farther: mean miles may rise.
+
+These figures come from the sample models, which are stand-ins and not calibrated.
 
 )";
 
@@ -74,7 +77,7 @@ All occupations        302   17.0      19.0     90.1      40.0      34,428.00   
 
 Result
 ------
-The improvement saves the commuters of the study 16,308.00 dollars per working day, 54.00 for each of them.
+The improvement saves the commuters of the study 16,308.00 dollars per working day, 54.00 dollars for each of them.
 )"));
 }
 
@@ -130,7 +133,7 @@ All           2        302   16.9      19.0     89.6      40.0      36,499.33   
 
 Result
 ------
-The improvement saves the commuters of the study 18,379.33 dollars per working day, 60.86 for each of them.
+The improvement saves the commuters of the study 18,379.33 dollars per working day, 60.86 dollars for each of them.
 )"));
 }
 
@@ -167,7 +170,7 @@ TEST_F(CommuterReport, longer_ways_are_told_as_a_cost) {
   study.write("imp_time.txt", slow);
   EXPECT_EQ(
       result("NONE"),
-      "The improvement costs the commuters of the study 16,308.00 dollars per working day, 54.00 for each "
+      "The improvement costs the commuters of the study 16,308.00 dollars per working day, 54.00 dollars for each "
       "of them.\r\n");
 }
 

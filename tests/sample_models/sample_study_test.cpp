@@ -74,7 +74,7 @@ TEST_F(SampleStudy, runs_from_its_files_to_its_result) {
   const auto report = study.read("report.txt");
   EXPECT_EQ(report.substr(report.find("Result")), with_crlf(R"(Result
 ------
-The improvement saves the commuters of the study 121,890.82 dollars per working day, 1.09 for each of them.
+The improvement saves the commuters of the study 121,890.82 dollars per working day, 1.09 dollars for each of them.
 )"));
 }
 
