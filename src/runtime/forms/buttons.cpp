@@ -1,6 +1,7 @@
 #include "runtime/forms/buttons.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -11,6 +12,21 @@ namespace runtime::forms {
 
 namespace {
 
+/// Enter presses the button that has the focus, as Space does.
+class PushButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+      click();
+    } else {
+      QPushButton::keyPressEvent(event);
+    }
+  }
+};
+
 QAbstractButton* button_of(const Control& control) {
   return qobject_cast<QAbstractButton*>(control.widget());
 }
@@ -18,7 +34,7 @@ QAbstractButton* button_of(const Control& control) {
 }  // namespace
 
 QWidget* CommandButton::make_widget(QWidget* parent) {
-  auto* button = new QPushButton(parent);
+  auto* button = new PushButton(parent);
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, button, [this, button] {
     // A shortcut clicks without taking the focus, which the control that had it must notice.

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScreen>
 #include <QSettings>
 
 #include "runtime/fault.h"
@@ -64,7 +65,8 @@ void CommonDialog::show(const QString& button) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setLabelText(QFileDialog::Accept, button);
   dialog.setViewMode(QFileDialog::List);  // what is picked is a name; sizes and dates only narrow it
-  dialog.resize(pixels({0, 0, dialog_width, dialog_height}).size());
+  dialog.resize(
+      pixels({0, 0, dialog_width, dialog_height}).size().boundedTo(dialog.screen()->availableSize() * 0.9));
   dialog.setNameFilters(name_filters(filter));
   dialog.setDirectory(start_directory(init_dir, file_name));
   dialog.selectFile(qt(std::string(files::file_name_of(file_name).value_or(file_name))));

@@ -189,6 +189,15 @@ TEST_F(Controls, a_button_pressed_by_its_shortcut_takes_the_focus_first) {
   EXPECT_EQ(form.heard.times, 1);
 }
 
+TEST_F(Controls, enter_and_space_press_the_button_that_has_the_focus) {
+  hear("Command1", Event::Click);
+  form.Show();
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    QTest::keyClick(form->Command1(1).widget(), key);
+  }
+  EXPECT_EQ(form.heard.times, 3);
+}
+
 TEST_F(Controls, a_carriage_return_breaks_the_line_of_a_label) {
   form.Show();
   EXPECT_EQ(analyst.text_of("Label1"), "two\nlines");
