@@ -168,10 +168,10 @@ TEST_F(CommuterReport, longer_ways_are_told_as_a_cost) {
   const auto slow = study.read("base_time.txt");
   study.write("base_time.txt", study.read("imp_time.txt"));
   study.write("imp_time.txt", slow);
-  EXPECT_EQ(
-      result("NONE"),
-      "The improvement costs the commuters of the study 16,308.00 dollars per working day, 54.00 dollars for each "
-      "of them.\r\n");
+  EXPECT_EQ(result("NONE"),
+            "The improvement costs the commuters of the study 16,308.00 dollars per working day, 54.00 "
+            "dollars for each "
+            "of them.\r\n");
 }
 
 TEST_F(CommuterReport, occupations_keep_the_order_of_their_picks) {

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPixmap>
+#include <QScreen>
 #include <vector>
 
 #include "runtime/fault.h"
@@ -49,6 +50,7 @@ MainWindow::MainWindow(Desktop& desktop, const std::string& caption, const QStri
     : desktop_(desktop), area_(new PictureArea(picture, this)) {
   setWindowTitle(qt(caption));
   setCentralWidget(area_);
+  resize(screen()->availableSize() * 0.85);  // for a desktop that does not maximize
   desktop_.main_window = this;
   desktop_.mdi_area = area_;
   build_menu(menu);
