@@ -1,15 +1,11 @@
 // The chain of the three model programs and the clean-up of their directory.
-#include <array>
-
+#include "analysis/verdict.h"
 #include "commuter/run.h"
-#include "commuter/verdict.h"
 #include "shell/module1.h"
 
 namespace commuter {
 
 namespace {
-
-using runtime::ignoring_faults;
 
 struct ModelProgram {
   const char* file;
@@ -21,7 +17,7 @@ constexpr ModelProgram improvement_run{"CC.EXE", "second"};
 constexpr ModelProgram report_run{"OUTPUT1.EXE", "third"};
 
 void change_to_model_directory(Run& run) {
-  run.program.desktop.files.ChDir(directory);
+  run.program.desktop.files.ChDir(market.directory);
 }
 
 End run_program(Run& run, const ModelProgram& model) {
@@ -34,9 +30,9 @@ End run_program(Run& run, const ModelProgram& model) {
 
 /// On success `err.txt` stays open under number 1.
 End check_verdict(Run& run) {
-  const auto error = read_verdict(run.program.desktop.files, "err.txt");
+  const auto error = analysis::read_verdict(run.program.desktop.files, market.verdict_file);
   if (!error) return End::go_on;
-  run.program.desktop.MsgBox("error occured in program execution! " + *error);
+  run.program.desktop.MsgBox(market.refused + *error);
   return End::reset;
 }
 
@@ -47,20 +43,6 @@ void swap_to_improvement(Run& run) {
   const auto& files = run.program.desktop.files;
   files.Kill(path_of(run, "/ccpar.txt"));
   files.Name(path_of(run, "/ccpar2.txt"), path_of(run, "/ccpar.txt"));
-}
-
-/// The first holds a literal ampersand, so that a file "var.txt" outlives the run; two find nothing that a
-/// pattern before them has left.
-constexpr std::array clean_up_patterns{
-    "/var&*.*",      "/sig*.*",      "/wage*.*",     "/cost*.*",    "/costAL*.*", "/popemp*.*",
-    "/base_time*.*", "/imp_time*.*", "/district*.*", "/dist*.*",    "/rel*.*",    "/imp_var*.*",
-    "/base_var*.*",  "/ccpar*.*",    "/outpar*.*",   "/costpar*.*",
-};
-
-void clean_up(Run& run) {
-  for (const char* pattern : clean_up_patterns) {
-    ignoring_faults([&] { run.program.desktop.files.Kill(path_of(run, pattern)); });
-  }
 }
 
 }  // namespace
@@ -83,7 +65,7 @@ End run_chain(Run& run) {
   program.desktop.MsgBox("Analysis Completed");
   files.Close(1);
   shell::GoToAppDirectory(program);
-  clean_up(run);
+  analysis::clean_up(program, market);
   return End::go_on;
 }
 

@@ -10,7 +10,7 @@ namespace commuter {
 using runtime::forms::WindowState;
 
 std::string path_of(const Run& run, const std::string& name) {
-  return analysis::model_path(run.program, directory, name);
+  return analysis::path_of(run.program, market, name);
 }
 
 void retry_end(Program& program) {

@@ -37,8 +37,7 @@ End check_choices(Run& run) {
     program.form3.set_window_state(runtime::forms::WindowState::maximized);
     return End::retry;
   }
-  if (program.form3.PickCount == 0)
-    return tell(run, "Must have at least one occupation input file!", End::retry);
+  if (program.form3.PickCount == 0) return tell(run, market.no_picks, End::retry);
   return End::go_on;
 }
 
@@ -52,17 +51,10 @@ void write_variation_file(Run& run, const char* name, int speed_field) {
 }
 
 End choose_reliability(Run& run) {
-  auto& form3 = run.program.form3;
-  if (form3->Option4(0).value()) {
-    run.ReliabilityMode = "DB";
-    write_base_variation(run);
-  } else if (form3->Option4(1).value()) {
-    run.ReliabilityMode = "FILE";
-  } else if (form3->Option4(2).value()) {
-    run.ReliabilityMode = "NONE";
-  } else {
-    return tell(run, "Please select an option for reliability analysis!", End::retry);
-  }
+  const auto mode = analysis::reliability_mode(run.program);
+  if (!mode) return tell(run, "Please select an option for reliability analysis!", End::retry);
+  run.ReliabilityMode = *mode;
+  if (*mode == "DB") write_base_variation(run);
   return End::go_on;
 }
 
@@ -89,24 +81,12 @@ End check_time_files(Run& run) {
   return End::go_on;
 }
 
-void copy_time_files(Run& run) {
-  auto& paths = run.program.form3->Data1(1);
-  paths.MoveFirst();
-  const auto& files = run.program.desktop.files;
-  files.FileCopy(joined(paths.field("distance")), path_of(run, "/Dist.txt"));
-  files.FileCopy(joined(paths.field("base_time")), path_of(run, "/base_time.txt"));
-  files.FileCopy(joined(paths.field("improvement_time")), path_of(run, "/imp_time.txt"));
-  run.program.form1.Unload();
-}
-
 void write_occupation_values(Run& run) {
   auto& form3 = run.program.form3;
   auto& files = run.program.desktop.files;
-  runtime::engine::Recordset occupation;
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& code = form3.PickCode(i);
-    occupation = run.db.OpenRecordset("select * from Commuter where index =" + code + " ");
-    occupation.MoveFirst();
+    const auto occupation = analysis::parameters_of(run.db, market, code);
     files.write_file(path_of(run, "/sig" + code + ".txt"),
                      [&](std::ostream& stream) { write_one_value(stream, occupation.field("sigma")); });
     files.write_file(path_of(run, "/wage" + code + ".txt"),
@@ -166,7 +146,7 @@ End write_picks(Run& run) {
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& path = form3.PickPath(i);
     if (!file_found(run, path)) return tell(run, "File " + path + " not Found!", End::reset);
-    files.FileCopy(path, path_of(run, "/popemp" + form3.PickCode(i) + ".txt"));
+    files.FileCopy(path, path_of(run, std::string("/") + market.picked_file + form3.PickCode(i) + ".txt"));
     for (const int number : parameter_files) write_pick(files.out(number), form3.PickCode(i));
   }
   return End::go_on;
@@ -182,20 +162,9 @@ void finish_parameter_files(Run& run) {
                    [&](std::ostream& stream) { write_cost_parameters(stream, fields); });
 }
 
-void build_summary(Run& run) {
-  auto& form3 = run.program.form3;
-  run.RunSummary = "The Number of Zones= " + std::to_string(run.ZoneCount) + "\r" +
-                   "The Number of Districts= " + std::to_string(run.DistrictCount) + "\r" +
-                   "The occupations are";
-  for (int i = 1; i <= form3.PickCount; ++i) {
-    const auto code = runtime::text::whole_16(runtime::text::val(form3.PickCode(i)));
-    run.RunSummary += " " + form3.PickLabel(code) + "\r";
-  }
-}
-
 End ask(Run& run) {
   Program& program = run.program;
-  build_summary(run);
+  run.RunSummary = analysis::summary(program, market, run.ZoneCount, run.DistrictCount);
   program.form1.Unload();
   program.form2.Unload();
   program.form3.set_window_state(runtime::forms::WindowState::maximized);
@@ -226,7 +195,8 @@ End prepare(Run& run) {
       end != End::go_on) {
     return end;
   }
-  copy_time_files(run);
+  analysis::copy_time_files(run.program, market);
+  run.program.form1.Unload();
   run.db = run.program.desktop.workspace.OpenDatabase(run.program.desktop.database_name);
   write_occupation_values(run);
   begin_parameter_files(run);

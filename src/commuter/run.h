@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "analysis/market.h"
 #include "forms/program.h"
 #include "runtime/engine/database.h"
 
@@ -11,8 +12,8 @@ namespace commuter {
 
 using forms::Program;
 
-/// The model directory below the application directory.
-inline constexpr const char* directory = "commuter";
+/// The commuter market's row of the table of what differs between the markets.
+extern const analysis::Market market;
 
 /// How a stretch of the handler ended.
 enum class End {

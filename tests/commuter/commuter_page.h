@@ -23,7 +23,7 @@ class CommuterPage : public ProgramTest {
   void press() {
     analyst.forget_boxes();
     levels_before_ = program.desktop.workspace.levels();
-    analyst.click("Command11");
+    analyst.click(run_button);
   }
 
   void press_and_answer(const std::vector<std::string>& buttons) {
@@ -71,15 +71,19 @@ class CommuterPage : public ProgramTest {
   /// as one: "= sample/distance.txt".
   std::map<std::string, std::string> model_files() const {
     std::map<std::string, std::string> files;
-    for (const std::string& name : app.names_in("commuter")) {
-      if (name == "CC.EXE" || name == "OUTPUT1.EXE") continue;
-      if (std::filesystem::is_directory(app.file("commuter/" + name))) continue;
-      files[name] = as_copy(app.bytes("commuter/" + name));
+    for (const std::string& name : app.names_in(model_directory)) {
+      const std::string path = model_directory + "/" + name;
+      if (std::filesystem::is_directory(app.file(path)) || std::filesystem::is_symlink(app.file(path))) continue;
+      files[name] = as_copy(app.bytes(path));
     }
     return files;
   }
 
   std::string in_app(const std::string& name) const { return app.file(name).string(); }
+
+  /// Of the commuter page; the commercial page has others.
+  std::string run_button = "Command11";
+  std::string model_directory = "commuter";
 
   static constexpr const char* sales = "sample/commute_Sales.txt";
   static constexpr const char* summary_of_sales =

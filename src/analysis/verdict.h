@@ -6,11 +6,11 @@
 
 #include "runtime/files/files.h"
 
-namespace commuter {
+namespace analysis {
 
 /// Opens the verdict file `name` under number 1, reads its first value, and, when that is a number other than
 /// 0, the program's own error text, which is the result. Number 1 stays open. Fault 53 when the file is
 /// missing, 62 when a value is.
 std::optional<std::string> read_verdict(runtime::files::Files& files, const std::string& name);
 
-}  // namespace commuter
+}  // namespace analysis

@@ -1,8 +1,8 @@
-#include "commuter/verdict.h"
+#include "analysis/verdict.h"
 
 #include "runtime/text/numbers.h"
 
-namespace commuter {
+namespace analysis {
 
 std::optional<std::string> read_verdict(runtime::files::Files& files, const std::string& name) {
   using runtime::files::Until;
@@ -12,4 +12,4 @@ std::optional<std::string> read_verdict(runtime::files::Files& files, const std:
   return files.input_value(number, Until::comma_or_line);
 }
 
-}  // namespace commuter
+}  // namespace analysis
