@@ -5,6 +5,8 @@
 #include "analysis/form3.h"
 #include "analysis/layouts.h"
 #include "analysis/picks.h"
+#include "commercial/form3.h"
+#include "commercial/layouts.h"
 #include "commuter/form3.h"
 #include "inputs/form2.h"
 #include "shell/start_and_exit.h"
@@ -17,8 +19,10 @@ using forms::Program;
 using runtime::forms::Event;
 
 constexpr std::array menu_table{
+    MenuTableRow{"mnu_tonstotrucks", commercial::mdiform1::mnu_tonstotrucks_Click},
     MenuTableRow{"spec_timdist", analysis::mdiform1::spec_timdist_Click},
     MenuTableRow{"spec_comm", analysis::mdiform1::spec_comm_Click},
+    MenuTableRow{"Spec_commercial", commercial::mdiform1::Spec_commercial_Click},
     MenuTableRow{"Mnu_exit", shell::mdiform1::Mnu_exit_Click},
 };
 
@@ -31,6 +35,7 @@ constexpr std::array form3_table{
     EventTableRow{"Check1", Event::Click, analysis::form3::Check1_Click},
     EventTableRow{"Option4", Event::Click, analysis::form3::Option4_Click},
     EventTableRow{"Command1", Event::Click, analysis::form3::Command1_Click},
+    EventTableRow{"Command2", Event::Click, commercial::form3::Command2_Click},
     EventTableRow{"Command3", Event::Click, analysis::form3::Command3_Click},
     EventTableRow{"Command4", Event::Click, analysis::form3::Command4_Click},
     EventTableRow{"Command5", Event::Click, analysis::form3::Command5_Click},
@@ -41,6 +46,7 @@ constexpr std::array form3_table{
     EventTableRow{"Command10", Event::Click, analysis::form3::Command10_Click},
     EventTableRow{"Command11", Event::Click, commuter::form3::Command11_Click},
     EventTableRow{"Command12", Event::Click, analysis::form3::Command12_Click},
+    EventTableRow{"Command13", Event::Click, commercial::form3::Command13_Click},
     EventTableRow{"Command14", Event::Click, analysis::form3::Command14_Click},
     EventTableRow{"Command15", Event::Click, analysis::form3::Command15_Click},
 };

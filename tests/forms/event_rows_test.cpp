@@ -24,8 +24,6 @@ const std::map<std::string, std::string> without_a_handler{
     {"Form2 Command4", "the entry of inputs is still to come"},
     {"Form2 Command5", "the entry of inputs is still to come"},
     {"Form2 Command6", "the entry of inputs is still to come"},
-    {"Form3 Command2", "the commercial run is still to come"},
-    {"Form3 Command13", "the conversion of tons to trucks is still to come"},
     {"frmDataGrid Cmdquit", "the grid is still to come"},
     {"frmDataGrid cmdClose", "the grid is still to come"},
     {"frmDataGrid cmdFilter", "the grid is still to come"},
@@ -51,12 +49,10 @@ const std::map<std::string, std::string> items_without_a_handler{
     {"Times", "the entry of inputs is still to come"},
     {"Comm_pop", "the entry of inputs is still to come"},
     {"CommerTdata", "the entry of inputs is still to come"},
-    {"mnu_tonstotrucks", "the conversion of tons to trucks is still to come"},
     {"commute_param_sw", "the parameter editor is still to come"},
     {"Commute_param_ms", "the parameter editor is still to come"},
     {"Commerparam", "the parameter editor is still to come"},
     {"mnu_rel", "the parameter editor is still to come"},
-    {"Spec_commercial", "the commercial run is still to come"},
 };
 
 class EventRows : public testing_aids::ProgramTest {

@@ -60,6 +60,11 @@ void Desktop::report(const Fault& fault) {
   show_runtime_error(main_window, fault, program_title);
 }
 
+void Desktop::end_with_report(const Fault& fault) {
+  report(fault);
+  QCoreApplication::exit(1);
+}
+
 int Desktop::run_program(const std::string& program) {
   workspace.before_program();
   const InputGuard guard;

@@ -61,6 +61,10 @@ class Desktop {
   /// windows repaint, and what the analyst does is dropped. Returns the exit code, or -1.
   int run_program(const std::string& program);
 
+  /// Reports a fault and ends the program: the one place where a report does not let it go on. What handlers
+  /// before this one wrote is stored already.
+  void end_with_report(const Fault& fault);
+
   /// True while a handler is under way.
   bool busy() const { return depth_ > 0; }
 

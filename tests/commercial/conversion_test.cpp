@@ -1,0 +1,112 @@
+// The conversion of tons to trucks, with a stand-in in the place of its program.
+#include <QApplication>
+#include <QTimer>
+
+#include "commercial_page.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class Conversion : public testing_aids::CommercialPage {
+ protected:
+  Conversion() {
+    run_button = "Command13";
+    app.put_stand_in("truck/tontotruck.exe");
+    app.put_file("sample/tons.txt", "1 2 300\r\n");
+    app.sql(
+        "DROP TABLE tontotruck; CREATE TABLE tontotruck (a INTEGER, b REAL, c REAL) STRICT;"
+        "INSERT INTO tontotruck VALUES (3, 12.5, 0.5), (4, 1, NULL)");
+  }
+
+  void open_truck_page() {
+    analyst.choose("mnu_tonstotrucks");
+    pick("Command15", "sample/tons.txt");
+  }
+
+  static constexpr const char* closed = R"(forms:
+open files:
+new levels: 0
+directory: ./truck
+picks:
+menus: Inputs Run spec_timdist
+)";
+};
+
+TEST_F(Conversion, writes_its_files_runs_and_tells) {
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Analysis Completed [OK]"));
+  EXPECT_EQ(app.bytes("truck/tontotruck.txt"), "  3  12.5  0.5\r\n  4  1  \r\n");
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), in_app("sample") + "/\r\n 24 \r\n");
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "1 2 300\r\n");
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), app.bytes("sample/distance.txt"));
+  EXPECT_EQ(program.form3.OutputFile, in_app("sample/tons.txt"));
+  program.form3.OutputFile.clear();
+  EXPECT_EQ(left(), closed);
+}
+
+TEST_F(Conversion, a_bare_commodity_name_gives_an_empty_first_line) {
+  app.put_file("tons.txt", "1 2 300\r\n");
+  app.sql("UPDATE Anfiles SET TonsFile = 'tons.txt'");
+  analyst.choose("mnu_tonstotrucks");
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), "\r\n 24 \r\n");
+}
+
+TEST_F(Conversion, removes_what_an_earlier_run_left_before_it_starts) {
+  app.put_file("truck/district.txt", "old");
+  app.put_file("truck/err.txt", "1, old\r\n");
+  program_does("exit 3\n");
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/district.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/err.txt"), "(none)");
+}
+
+TEST_F(Conversion, no_zones_ends_with_the_page_up) {
+  open_truck_page();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numzones = 0");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("The number of zones for this analysis has not been specified! [OK]"));
+  EXPECT_TRUE(program.form3.visible());
+}
+
+TEST_F(Conversion, a_missing_base_time_file_closes_the_page_without_a_word) {
+  open_truck_page();
+  std::filesystem::remove(app.file("sample/base_time.txt"));
+  press();
+  EXPECT_THAT(shown(), IsEmpty());
+  EXPECT_FALSE(program.form3.loaded());
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), "(none)");
+}
+
+TEST_F(Conversion, an_exit_code_is_told_with_the_words_turned_round) {
+  program_does("exit 3\n");
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Error executing truck to ton conversion program [stop sign, OK]"));
+  EXPECT_EQ(program.form3.LastReply, "1");
+  EXPECT_FALSE(program.form3.loaded());
+}
+
+TEST_F(Conversion, a_refusal_is_told_directly_behind_the_words) {
+  program_does("write Err.txt 2 bad tons\\r\\n\n");
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("error occured in program execution!bad tons [OK]"));
+}
+
+TEST_F(Conversion, a_fault_is_reported_and_ends_the_program_and_loses_nothing_that_was_stored) {
+  open_truck_page();
+  app.sql("DELETE FROM tontotruck");
+  QTimer::singleShot(0, [this] { press_and_answer({"OK"}); });
+  EXPECT_EQ(QApplication::exec(), 1);
+  EXPECT_THAT(shown(),
+              ElementsAre("RuntimeError: Run-time error '3021':\n\nNo current record [stop sign, OK]"));
+  EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("24"));
+}
+
+}  // namespace

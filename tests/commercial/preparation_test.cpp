@@ -1,0 +1,69 @@
+// The second layout of the directory "truck", which nothing on the screen starts.
+#include "commercial/form3.h"
+#include "commercial_page.h"
+
+namespace {
+
+using ::testing::IsEmpty;
+
+class Preparation : public testing_aids::CommercialPage {
+ protected:
+  Preparation() { std::filesystem::create_directory(app.file("truck/trktrp")); }
+
+  void prepare() {
+    as_handler([this] { commercial::form3::run_commercform3(program); });
+    EXPECT_THAT(analyst.boxes(), IsEmpty());
+  }
+
+  void add_pick(const char* code, const std::string& path) {
+    const int place = ++program.form3.PickCount;
+    program.form3.PickCode(place) = code;
+    program.form3.PickPath(place) = path;
+  }
+};
+
+TEST_F(Preparation, without_a_pick_writes_three_lines_and_copies_the_time_files) {
+  prepare();
+  EXPECT_EQ(app.bytes("truck/outpar.txt"), app.path() + "\\truck\r\n9\r\n 0 \r\n");
+  for (const char* name : {"distance.txt", "base_time.txt", "imp_time.txt"}) {
+    EXPECT_EQ(app.bytes(std::string("truck/trktrp/") + name), app.bytes(std::string("sample/") + name))
+        << name;
+  }
+}
+
+TEST_F(Preparation, writes_all_fields_but_the_first_each_with_a_comma) {
+  add_pick("2", in_app(mining));
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), "4.62,5469,25.04,50,1,95,\r\n");
+  EXPECT_EQ(app.bytes("truck/trktrp2.txt"), app.bytes(mining));
+  EXPECT_EQ(app.bytes("truck/outpar.txt"), app.path() + "\\truck\r\n9\r\n 1 \r\n2\r\n");
+}
+
+TEST_F(Preparation, an_empty_path_skips_the_copy_and_the_code_but_not_the_costs) {
+  add_pick("9", "");
+  prepare();
+  EXPECT_EQ(app.bytes("truck/outpar.txt"), app.path() + "\\truck\r\n9\r\n 1 \r\n");
+  EXPECT_EQ(app.bytes("truck/cost9.txt"), "10.61,135,0,50,1,95,\r\n");
+}
+
+TEST_F(Preparation, deletes_old_costs_in_truck_and_old_trips_in_the_application_directory) {
+  app.put_file("truck/cost4.txt", "old");
+  app.put_file("truck/trktrp4.txt", "stays");
+  app.put_file("trktrp4.txt", "goes");
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost4.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/trktrp4.txt"), "stays");
+  EXPECT_EQ(app.bytes("trktrp4.txt"), "(none)");
+}
+
+TEST_F(Preparation, failing_statements_are_skipped) {
+  std::filesystem::remove_all(app.file("truck/trktrp"));
+  add_pick("2", in_app("sample/none.txt"));
+  add_pick("77", in_app(mining));
+  prepare();
+  EXPECT_EQ(app.bytes("truck/outpar.txt"), app.path() + "\\truck\r\n9\r\n 2 \r\n2\r\n77\r\n");
+  EXPECT_EQ(app.bytes("truck/trktrp77.txt"), app.bytes(mining));
+  EXPECT_FALSE(program.desktop.files.is_open(1));
+}
+
+}  // namespace

@@ -1,0 +1,203 @@
+// Every message of the commercial checks, and what its end leaves behind.
+#include "commercial_page.h"
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Key;
+using ::testing::Not;
+using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
+using CommercialEnds = testing_aids::CommercialPage;
+
+constexpr const char* page_stays = R"(forms: Form3* Form2
+open files:
+new levels: 1
+directory: .
+picks: 2, output
+menus: spec_CuCo spec_comm
+)";
+
+constexpr const char* first_step_again = R"(forms:
+open files:
+new levels: 0
+directory: .
+picks:
+menus: Inputs Run spec_timdist spec_comm
+)";
+
+TEST_F(CommercialEnds, no_zones_ends_plainly_with_the_page_up) {
+  make_ready();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numzones = 0");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("The number of zones for this analysis has not been specified! [OK]"));
+  EXPECT_EQ(left(), R"(forms: Form3* Form1 Form2
+open files:
+new levels: 0
+directory: .
+picks: 2, output
+menus: spec_CuCo spec_comm
+)");
+}
+
+TEST_F(CommercialEnds, no_output_file_keeps_the_page) {
+  open_commercial_page();
+  pick("Command1(2)", mining);
+  by_code([this] { program.form3->Command2.set_enabled(true); });
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("No Output File Specified! [OK]"));
+  EXPECT_EQ(left(), R"(forms: Form3* Form2
+open files:
+new levels: 1
+directory: .
+picks: 2
+menus: spec_CuCo spec_comm
+)");
+}
+
+TEST_F(CommercialEnds, no_industry_keeps_the_page) {
+  open_commercial_page();
+  pick("Command5", "results/trucks.txt");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Must have at least one industry input file! [OK]"));
+  EXPECT_EQ(program.form3.OutputFile, in_app("results/trucks.txt"));
+}
+
+TEST_F(CommercialEnds, no_reliability_option_ends_plainly) {
+  make_ready();
+  by_code([this] { program.form3->Option4(2).set_value(false); });
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Please select an option for reliability analysis! [OK]"));
+  EXPECT_THAT(model_files(), UnorderedElementsAre(Key("stand_in.txt")));
+}
+
+TEST_F(CommercialEnds, a_district_file_that_was_not_picked_ends_plainly) {
+  make_ready();
+  analyst.click("Check1");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("No District File Specified! [OK]"));
+  EXPECT_EQ(left(), R"(forms: Form3* Form2
+open files:
+new levels: 0
+directory: .
+picks: 2, output
+menus: spec_CuCo spec_comm
+)");
+}
+
+TEST_F(CommercialEnds, a_district_file_that_is_gone_keeps_the_page_and_the_parameter_form) {
+  make_ready_with_districts();
+  std::filesystem::remove(app.file("sample/districts.txt"));
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("File " + in_app("sample/districts.txt") + " not Found! [OK]"));
+  EXPECT_TRUE(program.form1.loaded());
+}
+
+TEST_F(CommercialEnds, a_missing_time_file_is_told_after_the_forms_are_gone) {
+  make_ready();
+  std::filesystem::remove(app.file("sample/base_time.txt"));
+  bool form_was_there = true;
+  analyst.when_box_shows = [&](const analyst::Box&) { form_was_there = program.form3.loaded(); };
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("file sample/base_time.txt not found! [OK]"));
+  EXPECT_FALSE(form_was_there);
+  EXPECT_EQ(left(), first_step_again);
+}
+
+TEST_F(CommercialEnds, no_number_of_districts_keeps_the_page) {
+  make_ready_with_districts();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numdstrct = 0");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(),
+              ElementsAre("Please specify number of Districts under - Prepare Inputs - Menu Item!  [OK]"));
+  EXPECT_TRUE(program.form3.visible());
+  EXPECT_EQ(app.bytes("truck/outpar.txt"), " 24 \r\n");
+}
+
+TEST_F(CommercialEnds, more_districts_than_zones_keeps_the_page) {
+  make_ready_with_districts();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numdstrct = 25");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Number of Districts greater than zones! [OK]"));
+  EXPECT_TRUE(program.form3.visible());
+}
+
+TEST_F(CommercialEnds, as_many_districts_as_zones_are_allowed) {
+  make_ready_with_districts();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numdstrct = 24");
+  press_and_answer({"No"});
+  EXPECT_THAT(analyst.texts(), ElementsAre("The Number of Zones= 24\nThe Number of Districts= 24\n"
+                                           "The industries areMining\nDo you wish to continue?"));
+}
+
+TEST_F(CommercialEnds, a_trip_file_that_is_gone_stops_without_a_word_and_leaves_the_parameter_file_open) {
+  make_ready();
+  std::filesystem::remove(app.file(mining));
+  press();
+  EXPECT_THAT(shown(), IsEmpty());
+  EXPECT_EQ(left(), R"(forms: Form3* Form2
+open files: 1
+new levels: 0
+directory: .
+picks: 2, output
+menus: spec_CuCo spec_comm
+)");
+}
+
+TEST_F(CommercialEnds, the_answer_no_forgets_the_picks_and_leaves_the_files) {
+  make_ready();
+  press_and_answer({"No"});
+  EXPECT_THAT(shown(), ElementsAre(summary_of_mining));
+  EXPECT_EQ(left(), first_step_again);
+  EXPECT_THAT(model_files(),
+              UnorderedElementsAre(
+                  Pair("Dist.txt", "= sample/distance.txt"), Pair("base_time.txt", "= sample/base_time.txt"),
+                  Pair("imp_time.txt", "= sample/imp_time.txt"), Pair("sig2.txt", " 4.62 \r\n"),
+                  Pair("cost2.txt", " 5469          25.04         50            1             95 \r\n"),
+                  Pair("outpar.txt",
+                       " 24 \r\n0             0\r\nNONE\r\n" + in_app("results/trucks") + "\r\n 1 \r\n2\r\n"),
+                  Pair("trktrp2.txt", "= sample/trips_Mining.txt"), Key("stand_in.txt")));
+}
+
+TEST_F(CommercialEnds, sketch_planning_data_write_both_cases_first_of_all) {
+  make_ready();
+  analyst.click("Option4(0)");
+  press_and_answer({"No"});
+  EXPECT_THAT(model_files(), Contains(Pair("base_var.txt", " 38  .42 \r\n")));
+  EXPECT_THAT(model_files(), Contains(Pair("imp_var.txt", " .42  47 \r\n")));
+}
+
+TEST_F(CommercialEnds, a_reliability_file_that_does_not_exist_changes_nothing_but_the_mode) {
+  make_ready();
+  analyst.click("Option4(1)");
+  std::filesystem::remove(app.file("sample/reliability.txt"));
+  press_and_answer({"No"});
+  EXPECT_EQ(app.bytes("truck/outpar.txt"),
+            " 24 \r\n0             0\r\nFILE\r\n" + in_app("results/trucks") + "\r\n 1 \r\n2\r\n");
+  EXPECT_THAT(model_files(), Not(Contains(Key("var.txt"))));
+}
+
+TEST_F(CommercialEnds, an_industry_without_a_row_is_a_run_time_error_and_loses_nothing_that_was_stored) {
+  make_ready();
+  app.sql("DELETE FROM Commercial WHERE industry_number = 2");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(),
+              ElementsAre("RuntimeError: Run-time error '3021':\n\nNo current record [stop sign, OK]"));
+  EXPECT_TRUE(program.form3.visible());
+  EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("24"));
+}
+
+TEST_F(CommercialEnds, a_missing_directory_is_a_run_time_error) {
+  make_ready();
+  std::filesystem::remove_all(app.file("truck"));
+  press_and_answer({"OK"});
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+}
+
+}  // namespace
