@@ -27,6 +27,9 @@ class Demonstration {
     picture("main_window");
     specify_time_and_distance();
     run_commuter_analysis();
+    specify_time_and_distance();
+    run_commercial_analysis();
+    convert_tons();
     for (const std::string& complaint : analyst_.complaints())
       std::fprintf(stderr, "%s\n", complaint.c_str());
     return analyst_.complaints().empty() ? 0 : 1;
@@ -55,6 +58,29 @@ class Demonstration {
     analyst_.will_press("Yes");
     analyst_.will_press("OK");
     analyst_.click("Command11");
+  }
+
+  void run_commercial_analysis() {
+    const std::string sample = program_.desktop.app_path + "/sample/";
+    choose("Spec_commercial", "menu_commercial");
+    pick("Command1(2)", sample + "trips_Mining.txt");
+    pick("Command1(4)", sample + "trips_Manufacturing.txt");
+    pick("Command5", program_.desktop.app_path + "/results/commercial.txt");
+    analyst_.click("Check1");
+    pick("Command7", sample + "districts.txt");
+    picture("commercial_page_filled");
+    next_box_ = "commercial_summary";
+    analyst_.will_press("Yes");
+    analyst_.will_press("OK");
+    analyst_.click("Command2");
+  }
+
+  void convert_tons() {
+    choose("mnu_tonstotrucks", "menu_conversion");
+    pick("Command15", program_.desktop.app_path + "/sample/commodity.txt");
+    picture("truck_page_filled");
+    analyst_.will_press("OK");
+    analyst_.click("Command13");
   }
 
   void choose(const std::string& item, const QString& picture_name) {
