@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t buffer_size = 65'536;
 constexpr std::size_t longest_line = 32'000;
 constexpr std::size_t longest_quote = 40;
+constexpr std::size_t field_width = 10;
 
 double read_number(const LineReader& file, std::string_view text) {
   const auto value = parse_number(text);
@@ -58,7 +59,7 @@ std::string_view LineReader::next() {
 }
 
 void LineReader::expect_end() {
-  if (waiting().empty() && !fill()) return;
+  if (at_end()) return;
   ++line_;
   refuse("the file has more lines than it may have");
 }
@@ -82,6 +83,22 @@ std::vector<double> read_numbers(LineReader& file, std::size_t count) {
   values.reserve(count);
   for (const auto piece : pieces) values.push_back(read_number(file, piece));
   return values;
+}
+
+std::array<std::string_view, 3> read_fields(LineReader& file) {
+  const auto line = file.next();
+  if (line.size() != 3 * field_width) file.refuse("the line must have three fields of 10 columns");
+  return {line.substr(0, field_width), line.substr(field_width, field_width), line.substr(2 * field_width)};
+}
+
+int zone_of(const LineReader& file, std::string_view field) {
+  const auto zone = parse_whole(field);
+  if (!zone) file.refuse(quoted(field) + " is not a zone");
+  return *zone;
+}
+
+double number_of(const LineReader& file, std::string_view field) {
+  return field.find_first_not_of(' ') == std::string_view::npos ? 0 : read_number(file, field);
 }
 
 int read_whole(LineReader& file, int lowest, int highest) {

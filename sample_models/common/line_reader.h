@@ -1,6 +1,7 @@
 // Strict reading of a model's text files, line by line.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <fstream>
 #include <string>
@@ -18,6 +19,9 @@ class LineReader {
 
   /// The next line without its CR LF; valid until the next call. Refuses when there is none.
   std::string_view next();
+
+  /// Whether nothing follows the last line that was read.
+  bool at_end() { return waiting().empty() && !fill(); }
 
   /// Refuses when anything follows the last line that was read.
   void expect_end();
@@ -44,6 +48,15 @@ std::string quoted(std::string_view text);
 
 /// The next line as exactly `count` numbers between blanks, each 0 or greater.
 std::vector<double> read_numbers(LineReader& file, std::size_t count);
+
+/// The next line as three fields of 10 columns each; valid until the next line is read.
+std::array<std::string_view, 3> read_fields(LineReader& file);
+
+/// The whole number that names a zone in a field of the line that was read last.
+int zone_of(const LineReader& file, std::string_view field);
+
+/// The number in a field of the line that was read last, 0 or greater; an empty field is 0.
+double number_of(const LineReader& file, std::string_view field);
 
 /// The next line as one whole number from `lowest` to `highest`.
 int read_whole(LineReader& file, int lowest, int highest);

@@ -6,6 +6,16 @@
 
 namespace model {
 
+std::string coded_file(std::string_view stem, int code) {
+  return std::string(stem) + std::to_string(code) + ".txt";
+}
+
+std::string read_report_file(LineReader& file) {
+  const std::string base(file.next());
+  if (base.empty()) file.refuse("the output file has no name");
+  return base + ".txt";
+}
+
 int read_zone_count(LineReader& file) {
   return read_whole(file, 1, most_zones);
 }

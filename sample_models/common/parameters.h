@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/line_reader.h"
@@ -10,6 +11,12 @@
 namespace model {
 
 constexpr int most_zones = 9999;
+
+/// The name of a file that exists once for each code: "sig", 7 gives "sig7.txt".
+std::string coded_file(std::string_view stem, int code);
+
+/// The next line as the path of the report without its ".txt"; the result has it.
+std::string read_report_file(LineReader& file);
 
 /// The next line as the number of zones of the study.
 int read_zone_count(LineReader& file);

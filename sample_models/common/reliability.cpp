@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <utility>
 
 namespace model {
@@ -41,6 +42,15 @@ Roads checked_roads(const LineReader& file, double speed, double highway_share) 
   if (speed <= 0) file.refuse("the speed must be greater than 0");
   if (highway_share > 1) file.refuse("the highway share must be from 0 to 1");
   return {speed, highway_share};
+}
+
+std::optional<BothRoads> read_supplied_roads() {
+  if (!std::filesystem::exists("var.txt")) return std::nullopt;
+  LineReader file("var.txt");
+  const auto values = read_numbers(file, 4);
+  const BothRoads roads{checked_roads(file, values[0], values[1]), checked_roads(file, values[2], values[3])};
+  file.expect_end();
+  return roads;
 }
 
 double unexpected_minutes_per_mile(const Roads& roads) {

@@ -29,9 +29,19 @@ struct Roads {
   double highway_share = 0;
 };
 
+/// The roads of both cases.
+struct BothRoads {
+  Roads base;
+  Roads improvement;
+};
+
 /// `speed` and `highway_share` as the roads of a case; refuses, as a fault of the line that `file` read
 /// last, a speed of 0 and a share above 1.
 Roads checked_roads(const LineReader& file, double speed, double highway_share);
+
+/// Reads "var.txt", an analyst's file with the speed and the highway share of the base case and of the
+/// improvement case in one line. Empty without the file: nobody may have brought it here.
+std::optional<BothRoads> read_supplied_roads();
 
 /// Minutes of delay per mile that come unexpected. Free roads would be driven at 60 miles per hour on
 /// highways and at 35 elsewhere; two fifths of what the mean speed stays behind that is unexpected.

@@ -30,20 +30,34 @@ std::string pair_name(int origin, int destination) {
 void ZonePairs::read_row(std::span<double> values) {
   ++origin_;
   int destination = 0;
-  for (double& value : values) value = value_of_pair(file_.next(), ++destination);
+  for (double& value : values) {
+    ++destination;
+    value = layout_ == PairLayout::Blanks ? next_between_blanks(destination) : next_in_columns(destination);
+  }
 }
 
-double ZonePairs::value_of_pair(std::string_view line, int expected) const {
+double ZonePairs::next_between_blanks(int expected) {
+  const auto line = file_.next();
   auto rest = line;
   const auto origin = take_zone(rest);
   const auto destination = origin ? take_zone(rest) : std::nullopt;
   if (!destination) file_.refuse(quoted(line) + " is not an origin and a destination and a value");
-  if (*origin != origin_ || *destination != expected) refuse_order(*origin, *destination, expected);
+  expect(*origin, *destination, expected);
   if (rest.empty()) file_.refuse(pair_name(origin_, expected) + " has no value");
   const auto value = rest.front() == ' ' || rest.back() == ' ' ? std::nullopt : parse_number(rest);
   if (!value) file_.refuse(quoted(rest) + " is not a number");
   if (*value < 0) file_.refuse(quoted(rest) + " is negative");
   return *value;
+}
+
+double ZonePairs::next_in_columns(int expected) {
+  const auto [origin, destination, value] = read_fields(file_);
+  expect(zone_of(file_, origin), zone_of(file_, destination), expected);
+  return number_of(file_, value);
+}
+
+void ZonePairs::expect(int origin, int destination, int expected) const {
+  if (origin != origin_ || destination != expected) refuse_order(origin, destination, expected);
 }
 
 void ZonePairs::refuse_order(int origin, int destination, int expected) const {

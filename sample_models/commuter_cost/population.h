@@ -10,7 +10,6 @@ namespace model {
 struct Population {
   std::vector<double> living;
   std::vector<double> working;
-  double workplaces = 0;  ///< sum of `working`
 };
 
 /// Reads a file with one line for each of the zones, in any order: the zone, the persons living there and

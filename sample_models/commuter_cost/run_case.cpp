@@ -43,16 +43,10 @@ Roads read_roads_of_case(Case which) {
   return roads;
 }
 
-/// An analyst's file holds the speed and the highway share of both cases in one line. A run goes on
-/// without it, since nobody may have brought it here.
-std::optional<Roads> read_supplied_roads(Case which) {
-  if (!std::filesystem::exists("var.txt")) return std::nullopt;
-  LineReader file("var.txt");
-  const auto values = read_numbers(file, 4);
-  const auto base = checked_roads(file, values[0], values[1]);
-  const auto improvement = checked_roads(file, values[2], values[3]);
-  file.expect_end();
-  return which == Case::Base ? base : improvement;
+std::optional<Roads> read_supplied_roads_of_case(Case which) {
+  const auto roads = read_supplied_roads();
+  if (!roads) return std::nullopt;
+  return which == Case::Base ? roads->base : roads->improvement;
 }
 
 std::optional<Roads> read_roads(const CaseRequest& request) {
@@ -60,7 +54,7 @@ std::optional<Roads> read_roads(const CaseRequest& request) {
     case ReliabilityMode::Database:
       return read_roads_of_case(request.which);
     case ReliabilityMode::File:
-      return read_supplied_roads(request.which);
+      return read_supplied_roads_of_case(request.which);
     case ReliabilityMode::None:
       break;
   }
@@ -73,7 +67,7 @@ std::vector<Occupation> read_occupations(const CaseRequest& request, const std::
   for (const int code : request.codes) {
     const auto parameters = read_occupation_parameters(code);
     occupations.push_back({code, parameters, daily_cost(parameters.wage, travel, roads),
-                           read_population(occupation_file("popemp", code), request.zones)});
+                           read_population(coded_file("popemp", code), request.zones)});
   }
   return occupations;
 }
@@ -81,7 +75,7 @@ std::vector<Occupation> read_occupations(const CaseRequest& request, const std::
 void refuse_what_is_too_large(const Commuting& total, int code) {
   for (const double value : {total.minutes, total.miles, total.dollars}) {
     if (!std::isfinite(value)) {
-      throw Refusal(occupation_file("popemp", code), "the numbers are too large to be computed with");
+      throw Refusal(coded_file("popemp", code), "the numbers are too large to be computed with");
     }
   }
 }

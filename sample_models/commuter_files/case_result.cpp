@@ -2,8 +2,8 @@
 
 #include "common/line_reader.h"
 #include "common/numbers.h"
+#include "common/parameters.h"
 #include "common/text_file.h"
-#include "commuter_files/occupations.h"
 
 namespace model {
 
@@ -35,7 +35,7 @@ Commuting& Commuting::operator+=(const Commuting& other) {
 }
 
 std::string result_file(Case which, int code) {
-  return occupation_file(which == Case::Base ? "costbase" : "costimp", code);
+  return coded_file(which == Case::Base ? "costbase" : "costimp", code);
 }
 
 void write_result(Case which, int code, const CaseResult& result) {

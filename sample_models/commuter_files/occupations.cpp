@@ -25,8 +25,4 @@ std::string_view occupation_name(int code) {
   return names.at(static_cast<std::size_t>(code));
 }
 
-std::string occupation_file(std::string_view stem, int code) {
-  return std::string(stem) + std::to_string(code) + ".txt";
-}
-
 }  // namespace model

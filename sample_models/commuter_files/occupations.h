@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace model {
@@ -12,8 +11,5 @@ inline constexpr std::array occupation_codes{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1
 
 /// An occupation's name by its code, for people.
 std::string_view occupation_name(int code);
-
-/// The name of a file that exists once for each occupation: "sig", 7 gives "sig7.txt".
-std::string occupation_file(std::string_view stem, int code);
 
 }  // namespace model

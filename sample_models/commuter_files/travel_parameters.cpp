@@ -7,7 +7,6 @@
 #include "common/line_reader.h"
 #include "common/parameters.h"
 #include "common/refusal.h"
-#include "commuter_files/occupations.h"
 
 namespace model {
 
@@ -33,9 +32,9 @@ TravelParameters read_travel_parameters() {
 }
 
 OccupationParameters read_occupation_parameters(int code) {
-  const auto wage_file = occupation_file("wage", code);
+  const auto wage_file = coded_file("wage", code);
   const OccupationParameters result{read_single_number(wage_file),
-                                    read_single_number(occupation_file("sig", code))};
+                                    read_single_number(coded_file("sig", code))};
   if (result.wage <= 0) throw Refusal(wage_file, 1, "the wage must be greater than 0");
   return result;
 }

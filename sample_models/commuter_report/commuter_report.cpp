@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "common/numbers.h"
+#include "common/reliability_report.h"
 #include "common/report.h"
 #include "commuter_files/occupations.h"
 
@@ -74,26 +75,6 @@ std::vector<Column> behind(std::vector<Column> leading) {
   return leading;
 }
 
-std::string road_words(const std::optional<Roads>& roads) {
-  if (!roads) return "no data";
-  return grouped(roads->speed, 1) + " miles per hour, " + grouped(100 * roads->highway_share, 1) +
-         " % on highways: " + grouped(unexpected_minutes_per_mile(*roads), 2) +
-         " unexpected minutes per mile";
-}
-
-std::string reliability_lines(const ReportedOccupation& occupation) {
-  const auto mode = occupation.base.mode;
-  if (mode == ReliabilityMode::None) return labelled("Reliability", "not part of this analysis");
-  if (!occupation.base.roads && !occupation.improvement.roads) {
-    return labelled("Reliability", "asked for from a file, but no reliability data were supplied;") +
-           labelled("", "the figures leave it out");
-  }
-  const bool from_database = mode == ReliabilityMode::Database;
-  return labelled("Reliability", from_database ? "sketch-planning data" : "data of the analyst's file") +
-         labelled("  base case", road_words(occupation.base.roads)) +
-         labelled("  improvement case", road_words(occupation.improvement.roads));
-}
-
 std::string study_section(const Study& study) {
   constexpr std::array<std::string_view, 4> modes{"  drive alone", "  public transport", "  two in one car",
                                                   "  walk or cycle"};
@@ -105,7 +86,8 @@ std::string study_section(const Study& study) {
   for (std::size_t i = 0; i < modes.size(); ++i) {
     text += labelled(modes[i], grouped(100 * study.travel.mode_shares[i], 2) + " %");
   }
-  return text + reliability_lines(study.occupations.front());
+  const auto& first = study.occupations.front();
+  return text + reliability_lines(first.base.mode, first.base.roads, first.improvement.roads);
 }
 
 std::string occupation_parameters_section(const Study& study) {

@@ -9,12 +9,6 @@ namespace model {
 
 namespace {
 
-std::string read_report_file(LineReader& file) {
-  const std::string base(file.next());
-  if (base.empty()) file.refuse("the output file has no name");
-  return base + ".txt";
-}
-
 ReportedOccupation read_occupation(int code, int zones) {
   ReportedOccupation result{code, read_occupation_parameters(code), read_result(Case::Base, code, zones),
                             read_result(Case::Improvement, code, zones)};
