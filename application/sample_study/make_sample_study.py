@@ -45,6 +45,19 @@ OCCUPATIONS = {
 # Truck trips a day by industry.
 INDUSTRIES = {"Agriculture": 900, "Mining": 350, "Manufacturing": 5200, "Service": 7400}
 
+# Tons a year by class of commodities, in the order of their numbers.
+COMMODITIES = {
+    "farm products": 900_000,
+    "ores, coal and stone": 1_400_000,
+    "food": 600_000,
+    "wood and paper": 500_000,
+    "petroleum and chemicals": 700_000,
+    "metals": 300_000,
+    "machinery and vehicles": 250_000,
+    "parcels and mixed goods": 200_000,
+}
+SENDERS = 4  # zones that a commodity comes from
+
 # Speed in miles per hour and share of the miles on highways: base case, then improvement case.
 RELIABILITY = "38 0.42 47 0.48"
 
@@ -143,6 +156,26 @@ def trips(chance, total, distance):
     return apportion(total, weights)
 
 
+def shipments(chance, tons, distance):
+    """Annual tons by pair: from a few places to everywhere, less the farther it lies."""
+    order = [chance.random() for zone in range(ZONES)]
+    senders = sorted(range(ZONES), key=lambda zone: order[zone])[:SENDERS]
+    demand = [0.5 + chance.random() for zone in range(ZONES)]
+    pairs = [(a, b) for a in sorted(senders) for b in range(ZONES)]
+    parts = apportion(tons, [demand[b] / (30 + distance[a][b]) for a, b in pairs])
+    return [(a, b, part) for (a, b), part in zip(pairs, parts)]
+
+
+def commodity_lines(chance, distance):
+    """By origin, and within it by class."""
+    rows = [
+        (origin, commodity, destination, tons)
+        for commodity, total in enumerate(COMMODITIES.values(), start=1)
+        for origin, destination, tons in shipments(chance, total, distance)
+    ]
+    return [f"{a + 1:>10}{b + 1:>10}{commodity:>10}{tons:>10}" for a, commodity, b, tons in sorted(rows)]
+
+
 def tenths_text(tenths):
     whole, rest = divmod(tenths, 10)
     return f"{whole}.{rest}" if rest else f"{whole}"
@@ -179,6 +212,7 @@ def study():
         files[f"trips_{name}.txt"] = [
             f"{pair // ZONES + 1:>10}{pair % ZONES + 1:>10}{trucks:>10}" for pair, trucks in enumerate(daily)
         ]
+    files["commodity.txt"] = commodity_lines(chance, distance)
     return files
 
 

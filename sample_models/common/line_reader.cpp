@@ -1,5 +1,6 @@
 #include "common/line_reader.h"
 
+#include <cmath>
 #include <cstring>
 #include <utility>
 
@@ -83,6 +84,11 @@ std::vector<double> read_numbers(LineReader& file, std::size_t count) {
   values.reserve(count);
   for (const auto piece : pieces) values.push_back(read_number(file, piece));
   return values;
+}
+
+int whole_number(const LineReader& file, const std::string& name, double number, int highest) {
+  if (number >= 1 && number <= highest && number == std::floor(number)) return static_cast<int>(number);
+  file.refuse("the " + name + " must be a whole number from 1 to " + std::to_string(highest));
 }
 
 std::array<std::string_view, 3> read_fields(LineReader& file) {

@@ -49,6 +49,10 @@ std::string quoted(std::string_view text);
 /// The next line as exactly `count` numbers between blanks, each 0 or greater.
 std::vector<double> read_numbers(LineReader& file, std::size_t count);
 
+/// `number`, which stands in the line that was read last, as a whole number from 1 to `highest`; a refusal
+/// calls it `name`.
+int whole_number(const LineReader& file, const std::string& name, double number, int highest);
+
 /// The next line as three fields of 10 columns each; valid until the next line is read.
 std::array<std::string_view, 3> read_fields(LineReader& file);
 

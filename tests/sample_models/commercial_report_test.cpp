@@ -76,9 +76,9 @@ The improvement saves the commercial traffic of the study 990.00 dollars per wor
 
 // At 30 miles per hour instead of 40 a mile takes half a minute more, a fifth of a minute unexpected. Half of
 // the trips carry a load whose hour of delay costs 600 dollars: 0.5 * 600 / 60 * 0.2 = 1 dollar a mile in the
-// base case. Deliveries then cost 456 within a zone and 580 between zones. Zone 1 spends 10,236 on them, and its
-// prices fall to 10,236 / (11 * 456^2 / 450 + 9 * 580^2 / 450) = 0.86666: worth 1,364.88. Zone 2 saves 6 dollars
-// on each of 10 trips. District 1 is zone 2, district 2 is zone 1.
+// base case. Deliveries then cost 456 within a zone and 580 between zones. Zone 1 spends 10,236 on them, and
+// its prices fall to 10,236 / (11 * 456^2 / 450 + 9 * 580^2 / 450) = 0.86666: worth 1,364.88. Zone 2 saves 6
+// dollars on each of 10 trips. District 1 is zone 2, district 2 is zone 1.
 TEST_F(CommercialReport, tells_districts_and_reliability) {
   study.write("base_var.txt", " 30  .2 \r\n");
   study.write("imp_var.txt", " .2  40 \r\n");

@@ -35,8 +35,8 @@ std::string StudyDirectory::read(const std::string& name) const {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-int StudyDirectory::run(const std::string& program) const {
-  const int status = std::system(("cd \"" + path_.string() + "\" && \"" + program + "\"").c_str());
+int StudyDirectory::run(const std::string& program, const std::string& below) const {
+  const int status = std::system(("cd \"" + (path_ / below).string() + "\" && \"" + program + "\"").c_str());
 #ifdef _WIN32
   return status;
 #else

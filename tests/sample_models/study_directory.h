@@ -25,8 +25,8 @@ class StudyDirectory {
   bool has(const std::string& name) const { return std::filesystem::exists(path_ / name); }
   void remove(const std::string& name) const { std::filesystem::remove_all(path_ / name); }
 
-  /// Runs `program` with this directory as its current one; returns its exit code.
-  int run(const std::string& program) const;
+  /// Runs `program` with this directory, or one below it, as its current one; returns its exit code.
+  int run(const std::string& program, const std::string& below = ".") const;
 
  private:
   std::filesystem::path path_;
