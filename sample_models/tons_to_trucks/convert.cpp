@@ -85,7 +85,7 @@ void for_each_origin(const Request& request, const std::function<void(int, const
 }
 
 void refuse_what_is_too_wide(int origin, const std::vector<double>& row) {
-  const auto wide = std::ranges::find_if(row, [](double trucks) { return !column_text(trucks); });
+  const auto wide = std::ranges::find_if_not(row, fits_column);
   if (wide == row.end()) return;
   throw Refusal(commodity_copy, "the trips from " + std::to_string(origin) + " to " +
                                     std::to_string(wide - row.begin() + 1) + " do not fit in 10 columns");

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <charconv>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -12,32 +14,36 @@ namespace model {
 namespace {
 
 constexpr std::size_t column_width = 10;
-constexpr double too_wide = 9'999'999'999.5;
 
-std::string with_decimals(double value, int decimals) {
-  std::array<char, 32> digits{};
+std::string_view with_decimals(std::span<char> digits, double value, int decimals) {
   const auto end =
       std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
           .ptr;
-  std::string text(digits.data(), end);
+  std::string_view text(digits.data(), end);
   if (decimals == 0) return text;
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return text;
+  text = text.substr(0, text.find_last_not_of('0') + 1);
+  return text.back() == '.' ? text.substr(0, text.size() - 1) : text;
 }
 
-std::string column(std::string text) {
-  return std::string(column_width - text.size(), ' ') + std::move(text);
+void append_column(std::string& lines, std::string_view text) {
+  lines.append(column_width - text.size(), ' ').append(text);
+}
+
+void append_trips(std::string& lines, double trips) {
+  // Most pairs have none.
+  if (trips == 0) return append_column(lines, "0");
+  std::array<char, 32> digits{};
+  auto text = with_decimals(digits, trips, 4);
+  for (int decimals = 3; text.size() > column_width; --decimals) {
+    text = with_decimals(digits, trips, decimals);
+  }
+  append_column(lines, text);
 }
 
 }  // namespace
 
-std::optional<std::string> column_text(double value) {
-  if (!(value < too_wide)) return std::nullopt;
-  for (int decimals = 4;; --decimals) {
-    auto text = with_decimals(value, decimals);
-    if (text.size() <= column_width) return text;
-  }
+bool fits_column(double trips) {
+  return trips < 9'999'999'999.5;
 }
 
 TripFile::TripFile(std::filesystem::path path)
@@ -54,11 +60,15 @@ TripFile::~TripFile() {
 }
 
 void TripFile::write_row(int origin, std::span<const double> trips) {
-  const auto from = column(std::to_string(origin));
+  const auto from = std::to_string(origin);
   std::string lines;
+  lines.reserve(trips.size() * (3 * column_width + 2));
   int destination = 0;
   for (const double value : trips) {
-    lines += from + column(std::to_string(++destination)) + column(column_text(value).value()) + "\r\n";
+    append_column(lines, from);
+    append_column(lines, std::to_string(++destination));
+    append_trips(lines, value);
+    lines += "\r\n";
   }
   file_.write(lines.data(), static_cast<std::streamsize>(lines.size()));
   if (!file_) throw Refusal(path_.string(), "the file cannot be written");
