@@ -10,9 +10,9 @@ namespace model {
 /// Whether the whole part of `trips`, 0 or greater, fits in 10 columns.
 bool fits_column(double trips);
 
-/// Writes origin, destination and trips of every pair of zones, each at the right of 10 columns, the trips with
-/// up to four decimals and no more of them than fit. What is not closed is removed, so that nobody takes a part
-/// of a file for the whole.
+/// Writes origin, destination and trips of every pair of zones, each at the right of 10 columns, the trips
+/// with up to four decimals and no more of them than fit. What is not closed is removed, so that nobody takes
+/// a part of a file for the whole.
 class TripFile {
  public:
   /// Replaces the file at `path`.
