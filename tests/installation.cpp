@@ -49,8 +49,10 @@ Installation::Installation() {
   fs::copy_file(PROJECT_DATABASE, file("zelmor.mdb"));
   fs::copy(SAMPLE_STUDY, file("sample"), fs::copy_options::recursive);
   for (const char* name : {"commuter", "truck", "results"}) fs::create_directory(file(name));
-  for (const auto& model : fs::directory_iterator(COMMUTER_MODELS)) {
-    fs::create_symlink(model.path(), file("commuter") / model.path().filename());
+  for (const char* market : {"commuter", "truck"}) {
+    for (const auto& model : fs::directory_iterator(fs::path(SAMPLE_MODELS) / market)) {
+      fs::create_symlink(model.path(), file(market) / model.path().filename());
+    }
   }
 }
 
