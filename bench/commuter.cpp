@@ -31,7 +31,8 @@ class CommuterBench {
 
   /// What went otherwise than planned: then the figures mean nothing.
   bool failed() const {
-    for (const std::string& complaint : analyst_.complaints()) std::fprintf(stderr, "%s\n", complaint.c_str());
+    for (const std::string& complaint : analyst_.complaints())
+      std::fprintf(stderr, "%s\n", complaint.c_str());
     return !analyst_.complaints().empty();
   }
 

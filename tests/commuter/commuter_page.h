@@ -73,7 +73,8 @@ class CommuterPage : public ProgramTest {
     std::map<std::string, std::string> files;
     for (const std::string& name : app.names_in(model_directory)) {
       const std::string path = model_directory + "/" + name;
-      if (std::filesystem::is_directory(app.file(path)) || std::filesystem::is_symlink(app.file(path))) continue;
+      if (std::filesystem::is_directory(app.file(path)) || std::filesystem::is_symlink(app.file(path)))
+        continue;
       files[name] = as_copy(app.bytes(path));
     }
     return files;

@@ -38,6 +38,7 @@ void Control::create(const ControlDesign& design, QWidget* parent, Desktop& desk
 void Control::set_place(const Place& place) {
   place_ = place;
   widget_->setGeometry(pixels(place_));
+  placed();
   owner_.layout_changed();
 }
 

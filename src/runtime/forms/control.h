@@ -65,6 +65,8 @@ class Control {
   virtual void show_caption(const std::string&) {}
   /// What a kind has to do once its widget stands in its place.
   virtual void created(const ControlDesign&) {}
+  /// What a kind has to do whenever its widget was put in its place.
+  virtual void placed() {}
   /// Labels and drawn shapes lie under everything that can be used.
   virtual bool lies_under() const { return false; }
 

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
+#include <algorithm>
 
 #include "runtime/forms/twips.h"
 
@@ -17,6 +18,13 @@ QWidget* Label::make_widget(QWidget* parent) {
 void Label::show_caption(const std::string& caption) {
   QString text = qt(caption);
   static_cast<QLabel*>(widget())->setText(text.replace(u'\r', u'\n'));
+  placed();
+}
+
+void Label::placed() {
+  auto* label = static_cast<QLabel*>(widget());
+  if ((label->alignment() & Qt::AlignRight) != 0) return;
+  label->resize(std::max(pixels(place()).width(), label->sizeHint().width()), label->height());
 }
 
 void Label::align_right() {

@@ -14,6 +14,8 @@ class Label : public Control {
  protected:
   QWidget* make_widget(QWidget* parent) override;
   void show_caption(const std::string& caption) override;
+  /// A caption that is longer than its place runs on over the form instead of being cut.
+  void placed() override;
   bool lies_under() const override { return true; }
 };
 

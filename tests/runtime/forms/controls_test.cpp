@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "runtime/forms/twips.h"
 #include "small_form.h"
 
 namespace {
@@ -196,6 +197,16 @@ TEST_F(Controls, enter_and_space_press_the_button_that_has_the_focus) {
     QTest::keyClick(form->Command1(1).widget(), key);
   }
   EXPECT_EQ(form.heard.times, 3);
+}
+
+TEST_F(Controls, a_caption_longer_than_its_label_is_not_cut) {
+  form->Label1.set_caption(
+      "Output files are named <inputfile>\"_trip.txt\", and this goes on for quite a while");
+  const auto* label = qobject_cast<QLabel*>(form->Label1.widget());
+  EXPECT_GE(label->width(), label->sizeHint().width());
+  EXPECT_EQ(form->Label1.width(), 2400);
+  form->Label1.set_caption("short");
+  EXPECT_EQ(label->width(), rf::pixels(at(0)).width());
 }
 
 TEST_F(Controls, a_carriage_return_breaks_the_line_of_a_label) {
