@@ -1,5 +1,6 @@
 #include "runtime/text/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -74,6 +75,29 @@ void append_plain_form(std::string& line, const Decimal& decimal, std::string_vi
   }
 }
 
+// A number of at most four decimals, as most are. The quotient is the double next to these digits, so where
+// it is the number itself, they are the shortest that read back to it. Spares the search for them.
+bool append_few_decimals(std::string& line, double magnitude, std::string_view zero_before_point) {
+  constexpr std::int64_t scale = 10000;
+  constexpr double limit = 1e11;  // 15 digits at most
+  if (!(magnitude < limit)) return false;
+  const auto scaled = static_cast<std::int64_t>(magnitude * scale + 0.5);
+  if (static_cast<double>(scaled) / scale != magnitude) return false;
+
+  std::array<char, 24> buffer;
+  char* end = buffer.data();
+  if (scaled >= scale) end = std::to_chars(end, end + 16, scaled / scale).ptr;
+  const auto decimals = static_cast<int>(scaled % scale);
+  if (decimals != 0) {
+    if (scaled < scale) end = std::copy(zero_before_point.begin(), zero_before_point.end(), end);
+    *end++ = '.';
+    for (int rest = decimals, unit = static_cast<int>(scale) / 10; rest != 0; rest %= unit, unit /= 10)
+      *end++ = static_cast<char>('0' + rest / unit);
+  }
+  line.append(buffer.data(), end);
+  return true;
+}
+
 template <std::floating_point Number>
 void append_magnitude(std::string& line, Number magnitude, std::string_view zero_before_point) {
   if (!std::isfinite(magnitude)) throw Fault(overflow);
@@ -81,6 +105,8 @@ void append_magnitude(std::string& line, Number magnitude, std::string_view zero
     line += '0';
     return;
   }
+  if constexpr (std::is_same_v<Number, double>)
+    if (append_few_decimals(line, magnitude, zero_before_point)) return;
   const Decimal decimal = decimal_of(magnitude);
   const bool is_limit = decimal.exponent == 15 && decimal.count == 1 && decimal.digits[0] == '1';
   const bool is_plain = (decimal.exponent >= -15 && decimal.exponent < 15) || is_limit;

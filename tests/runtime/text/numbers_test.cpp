@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <clocale>
 #include <limits>
 
@@ -169,6 +170,22 @@ TEST(Joined, faults_on_what_is_no_finite_number) {
   EXPECT_EQ(fault_of([] { joined(std::numeric_limits<double>::infinity()); }), 6);
   EXPECT_EQ(fault_of([] { printed(-std::numeric_limits<float>::infinity()); }), 6);
   EXPECT_EQ(fault_of([] { joined(std::numeric_limits<double>::quiet_NaN()); }), 6);
+}
+
+TEST(Joined, has_the_shortest_digits_of_numbers_with_few_decimals) {
+  for (int i = 1; i < 300000; ++i) {
+    const double number = i * 37 / 10000.0;
+    char buffer[32];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed);
+    ASSERT_EQ(joined(number), std::string(buffer, end.ptr));
+  }
+}
+
+TEST(Joined, does_not_take_a_neighbour_for_the_number) {
+  EXPECT_EQ(joined(0.1 + 0.2), "0.3");
+  EXPECT_EQ(joined(0.1000000001), "0.1000000001");
+  EXPECT_EQ(joined(99999999999.9999), "99999999999.9999");
+  EXPECT_EQ(joined(1.00001), "1.00001");
 }
 
 TEST(Numbers, keep_the_point_under_a_locale_with_a_comma) {
