@@ -38,6 +38,13 @@ std::vector<fs::path> found_by(std::string_view name) {
   return {found};
 }
 
+void move_to_another_volume(const fs::path& source, const fs::path& target) {
+  copy_bytes(source, target);
+  std::error_code error;
+  fs::remove(source, error);
+  if (error) throw Fault(75, text_of(source));
+}
+
 }  // namespace
 
 std::string Files::Dir(std::string_view name, int attributes) const {
@@ -83,6 +90,8 @@ void Files::Name(std::string_view from, std::string_view to) const {
   if (is_there(resolve(to))) throw Fault(58, std::string(to));
   std::error_code error;
   fs::rename(source, target, error);
+  if (error == std::errc::cross_device_link && is_plain_file(source))
+    return move_to_another_volume(source, target);
   if (error) throw Fault(75, std::string(from));
 }
 

@@ -42,8 +42,9 @@ class Files {
   /// failure on the way. No cut file is left behind.
   void FileCopy(std::string_view from, std::string_view to) const;
 
-  /// Gives a file or directory another name. Fault 53 when there is none of the old name, 58 when there is
-  /// one of the new, 76 without one of the directories, 55 when the program holds it open, else 75.
+  /// Gives a file or directory another name; a file may go to another volume by it, at the cost and with the
+  /// faults of a copy. Fault 53 when there is none of the old name, 58 when there is one of the new, 76
+  /// without one of the directories, 55 when the program holds it open, else 75.
   void Name(std::string_view from, std::string_view to) const;
 
   /// Fault 76 when there is no such directory.

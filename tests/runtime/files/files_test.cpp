@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 
@@ -265,6 +266,24 @@ TEST_F(Rename, faults_on_a_file_held_open) {
   EXPECT_EQ(fault_of([this] { files.Name("ccpar2.txt", "ccpar.txt"); }), 55);
   EXPECT_EQ(names_in("."), "ccpar2.txt");
 }
+
+#ifdef __linux__
+TEST_F(Rename, moves_a_file_to_another_volume) {
+  const auto here_now = std::filesystem::current_path();
+  struct stat here_stat {};
+  struct stat memory_stat {};
+  ASSERT_EQ(stat(here_now.c_str(), &here_stat), 0);
+  if (stat("/dev/shm", &memory_stat) != 0 || memory_stat.st_dev == here_stat.st_dev) {
+    GTEST_SKIP() << "there is one volume";
+  }
+  const std::string target = "/dev/shm/" + here_now.filename().string() + ".txt";
+  put("trips.csv", "1,2");
+  files.Name("trips.csv", target);
+  EXPECT_EQ(bytes_of(target), "1,2");
+  EXPECT_EQ(names_in("."), "");
+  std::filesystem::remove(target);
+}
+#endif
 
 TEST_F(ChangeDirectory, enters_without_regard_to_case) {
   std::filesystem::create_directory("Commuter");

@@ -3,6 +3,7 @@
 #include "faults.h"
 #include "ordinary_user.h"
 #include "runtime/files/files.h"
+#include "runtime/files/numbers_in_use.h"
 #include "runtime/text/print_line.h"
 #include "temporary_directory.h"
 
@@ -220,6 +221,30 @@ TEST_F(NumberedFiles, written_at_once_pass_over_no_failed_write) {
   EXPECT_EQ(fault_of([&] { files.write_file("/dev/full", writer); }), 61);
   EXPECT_TRUE(files.is_open(1));
   EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
+}
+
+TEST_F(NumberedFiles, in_use_are_closed_when_a_fault_ends_the_work) {
+  const auto work = [this] {
+    const NumbersInUse numbers(files, 1, 2);
+    files.open_for_output(1, "trips.csv");
+    files.open_for_output(2, "schema.ini");
+    throw Fault(61);
+  };
+  EXPECT_EQ(fault_of(work), 61);
+  EXPECT_FALSE(files.is_open(1));
+  EXPECT_FALSE(files.is_open(2));
+}
+
+TEST_F(NumberedFiles, in_use_are_not_those_that_others_hold_open) {
+  files.open_for_output(1, "outpar.txt");
+  const auto work = [this] {
+    const NumbersInUse numbers(files, 1, 2);
+    files.open_for_output(2, "schema.ini");
+    files.open_for_output(1, "trips.csv");
+  };
+  EXPECT_EQ(fault_of(work), 55);
+  EXPECT_TRUE(files.is_open(1));
+  EXPECT_FALSE(files.is_open(2));
 }
 
 }  // namespace
