@@ -2,10 +2,12 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <utility>
 
 #include "runtime/engine/dialect/functions.h"
 #include "runtime/engine/result_codes.h"
+#include "runtime/engine/stored_value.h"
 #include "runtime/engine/transactions.h"
 
 namespace runtime::engine {
@@ -23,14 +25,29 @@ int authorize(void* callbacks, int action, const char* object, const char* /*det
   return touches_a_table && sqlite3_stricmp(object, fence.c_str()) == 0 ? SQLITE_OK : SQLITE_DENY;
 }
 
+// The store knows one word of the system for a full disk; a quota and a limit of a file's size have their
+// own.
+int full_disk_or(int code, sqlite3* handle) {
+  const int error = sqlite3_system_errno(handle);
+  bool is_full = error == EFBIG;
+#ifdef EDQUOT
+  is_full = is_full || error == EDQUOT;
+#endif
+  return code == SQLITE_IOERR_WRITE && is_full ? SQLITE_FULL : code;
+}
+
 }  // namespace
 
 Connection::Connection(std::filesystem::path file, std::shared_ptr<Transactions> transactions,
                        std::chrono::milliseconds lock_wait)
     : file_(std::move(file)), transactions_(std::move(transactions)) {
+  // What the store sorts may be larger than what the system's own place for temporary files holds.
+  sqlite3_free(sqlite3_temp_directory);
+  sqlite3_temp_directory = sqlite3_mprintf("%s", file_.parent_path().string().c_str());
   const auto name = file_.u8string();
-  const int code =
-      sqlite3_open_v2(reinterpret_cast<const char*>(name.c_str()), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+  // One thread counts; a lock for each field that is read would cost a third of a long walk.
+  constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+  const int code = sqlite3_open_v2(reinterpret_cast<const char*>(name.c_str()), &handle_, flags, nullptr);
   try {
     check(code);
     configure(lock_wait);
@@ -54,24 +71,39 @@ void Connection::configure(std::chrono::milliseconds lock_wait) {
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
   check(sqlite3_set_authorizer(handle_, &authorize, &callbacks_));
   check(dialect::register_functions(handle_, &callbacks_.fault));
+  check(register_row_values(handle_, &row_values_));
+  check(register_stored_value(handle_, &callbacks_.fault));
+  check(register_text_files(handle_, &linked_tables_));
 
   // An empty file opens without a word, so its size is asked for; a foreign one is told by this first read.
   Statement pages(*this, "PRAGMA page_count");
   if (!pages.step() || pages.whole(0) == 0) throw Fault(3343, file_.string());
   run("PRAGMA secure_delete=OFF");  // overwriting what is dropped costs twenty times the drop
+  run("PRAGMA cache_size=-16384");  // in KiB; a small one waits for the disk at every few hundred pages
   // The file alone must hold all when it is copied, whatever another tool has set.
   run("PRAGMA journal_mode=DELETE");
 }
 
 void Connection::check(int code) {
   if (code == SQLITE_OK || code == SQLITE_ROW || code == SQLITE_DONE) return;
+  row_counts_.forget();  // a failed statement may have taken back the whole transaction
+  if (const auto error = std::exchange(linked_tables_.error, nullptr)) std::rethrow_exception(error);
   const int fault = std::exchange(callbacks_.fault, 0);
   if (fault != 0) throw Fault(fault);
-  throw fault_of(sqlite3_extended_errcode(handle_), sqlite3_errmsg(handle_), file_);
+  throw fault_of(full_disk_or(sqlite3_extended_errcode(handle_), handle_), sqlite3_errmsg(handle_), file_);
 }
 
 void Connection::before_write() {
+  row_counts_.forget();
+  before_update();
+}
+
+void Connection::before_update() {
   transactions_->before_write(shared_from_this());
+}
+
+void Connection::commit_unguarded() {
+  transactions_->before_program();
 }
 
 void Connection::begin_reading() {
@@ -96,6 +128,10 @@ std::int64_t Connection::last_key() const {
 
 std::int64_t Connection::rows_changed() const {
   return sqlite3_changes64(handle_);
+}
+
+std::int64_t Connection::all_changes() const {
+  return sqlite3_total_changes64(handle_);
 }
 
 bool Connection::has_table(const std::string& name) {
@@ -160,6 +196,15 @@ bool Statement::step() {
   return code == SQLITE_ROW;
 }
 
+Statement& Statement::again() {
+  sqlite3_reset(statement_);
+  return *this;
+}
+
+int Statement::columns() const {
+  return sqlite3_column_count(statement_);
+}
+
 Value Statement::value(int column) const {
   switch (sqlite3_column_type(statement_, column)) {
     case SQLITE_NULL:
@@ -173,8 +218,16 @@ Value Statement::value(int column) const {
   }
 }
 
+bool Statement::is_null(int column) const {
+  return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+}
+
 std::int64_t Statement::whole(int column) const {
   return sqlite3_column_int64(statement_, column);
+}
+
+double Statement::number(int column) const {
+  return sqlite3_column_double(statement_, column);
 }
 
 std::string Statement::text(int column) const {

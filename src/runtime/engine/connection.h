@@ -4,11 +4,16 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
+#include "runtime/engine/row_counts.h"
+#include "runtime/engine/row_values.h"
+#include "runtime/engine/text_driver/linked_table.h"
+#include "runtime/progress.h"
 #include "runtime/value.h"
 
 struct sqlite3;
@@ -36,8 +41,19 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   const std::filesystem::path& file() const { return file_; }
 
+  /// What the workspace lends while it lives; either may be empty.
+  Progress progress;
+  std::function<std::filesystem::path(std::string_view)> resolve_name;
+  void tell_progress(std::int64_t done, std::int64_t total) const {
+    if (progress) progress(done, total);
+  }
+
   /// Must go before every statement that writes.
   void before_write();
+  /// Instead of before_write() where rows neither come nor go.
+  void before_update();
+  /// Makes durable what was written, unless a level guards some of it.
+  void commit_unguarded();
   bool in_transaction() const;
   /// Spare a long walk the lock of each single read.
   void begin_reading();
@@ -48,7 +64,14 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   std::int64_t last_key() const;
   std::int64_t rows_changed() const;
+  /// How many rows this connection has ever changed.
+  std::int64_t all_changes() const;
+  RowCounts& row_counts() { return row_counts_; }
+  RowValues& row_values() { return row_values_; }
   bool has_table(const std::string& name);
+
+  /// What the module of linked text files serves.
+  LinkedTables& linked_tables() { return linked_tables_; }
 
   /// Drops the prepared statements that are kept for their next use.
   void forget_statements();
@@ -66,6 +89,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
   std::shared_ptr<Transactions> transactions_;
   sqlite3* handle_ = nullptr;
   Callbacks callbacks_;
+  RowValues row_values_{&callbacks_.fault, {}};
+  RowCounts row_counts_{*this};
+  LinkedTables linked_tables_;
   std::unordered_map<std::string, sqlite3_stmt*> idle_;
 };
 
@@ -81,9 +107,14 @@ class Statement {
   Statement& bind(int parameter, const Value& value);
   /// True: there is a row. False: the statement is done.
   bool step();
+  /// Ready for other values and the first step.
+  Statement& again();
+  int columns() const;
   /// Columns count from 0.
   Value value(int column) const;
+  bool is_null(int column) const;
   std::int64_t whole(int column) const;
+  double number(int column) const;
   std::string text(int column) const;
 
  private:

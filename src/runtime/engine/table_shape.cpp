@@ -84,6 +84,15 @@ std::vector<Field> fields_of(Connection& connection, const std::string& table) {
   return fields;
 }
 
+dialect::Names names_of(const std::vector<Field>& fields) {
+  dialect::Names names;
+  for (const auto& field : fields)
+    names.push_back({field.name, field.kind == FieldKind::Text  ? dialect::Kind::Text
+                                 : field.kind == FieldKind::Any ? dialect::Kind::Unknown
+                                                                : dialect::Kind::Number});
+  return names;
+}
+
 Value converted(const Field& field, const Value& value) {
   if (is_null(value)) return value;
   switch (field.kind) {

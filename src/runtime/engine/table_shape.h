@@ -5,13 +5,13 @@
 #include <string_view>
 #include <vector>
 
+#include "runtime/engine/dialect/expression.h"
+#include "runtime/engine/recordset.h"
 #include "runtime/value.h"
 
 namespace runtime::engine {
 
 class Connection;
-
-enum class FieldKind { Whole, Double, Single, Text, Any };
 
 struct Field {
   std::string name;
@@ -20,6 +20,9 @@ struct Field {
 
 /// The fields of a table in stored order. Fault 3078 when there is no such table.
 std::vector<Field> fields_of(Connection& connection, const std::string& table);
+
+/// What an expression may name.
+dialect::Names names_of(const std::vector<Field>& fields);
 
 /// The value as the field keeps it. Fault 3421 when it can't take it.
 Value converted(const Field& field, const Value& value);

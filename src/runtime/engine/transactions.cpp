@@ -68,6 +68,7 @@ void Transactions::Rollback() {
   const bool has_savepoint = live_.back();
   live_.pop_back();
   if (!has_savepoint || !writes_pending()) return;
+  kept_->row_counts().forget();
   kept_->run("ROLLBACK TO " + savepoint(live_.size()));
   kept_->run("RELEASE " + savepoint(live_.size()));
 }
@@ -98,7 +99,10 @@ void Transactions::make_durable() {
 }
 
 void Transactions::drop() {
-  if (writes_pending()) kept_->run("ROLLBACK");
+  if (writes_pending()) {
+    kept_->row_counts().forget();
+    kept_->run("ROLLBACK");
+  }
   kept_.reset();
 }
 

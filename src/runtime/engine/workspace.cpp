@@ -41,6 +41,11 @@ Workspace::Workspace()
 
 Workspace::~Workspace() {
   ignoring_faults([this] { transactions_->drop(); });
+  // A handle that outlives the workspace keeps the connection, which has nobody to ask or to tell then.
+  if (const auto connection = open_.lock()) {
+    connection->progress = {};
+    connection->resolve_name = {};
+  }
 }
 
 Database Workspace::OpenDatabase(std::string_view name) {
@@ -53,6 +58,10 @@ Database Workspace::OpenDatabase(std::string_view name) {
   if (!connection) {
     connection = std::make_shared<Connection>(file, transactions_, lock_wait);
     check_tables(*connection, required_tables);
+    connection->progress = [this](std::int64_t done, std::int64_t total) {
+      if (progress) progress(done, total);
+    };
+    connection->resolve_name = [this](std::string_view wanted) { return resolve_name(wanted); };
     open_ = connection;
   }
   return Database(std::move(connection));

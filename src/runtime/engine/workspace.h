@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "runtime/engine/database.h"
+#include "runtime/progress.h"
 
 namespace runtime::engine {
 
@@ -34,6 +35,9 @@ class Workspace {
 
   /// How long a lock of another program is waited for.
   std::chrono::milliseconds lock_wait{5000};
+
+  /// Told by long statements how many rows of how many are done.
+  Progress progress;
 
   /// A handle on the file; every handle of this workspace is on the same connection. The file is never made.
   /// Faults: 3024 missing, 3343 not a project database (foreign, empty, a required table missing),

@@ -38,6 +38,17 @@ TEST_F(Execute, makes_fills_and_drops_a_table) {
   EXPECT_EQ(fault_of_statement("DROP TABLE sosec"), 3078);
 }
 
+TEST_F(Execute, gives_the_room_of_a_dropped_table_free_at_once_unless_a_level_guards_it) {
+  database.Execute("CREATE TABLE a (Zone integer)");
+  database.Execute("CREATE TABLE b (Zone integer)");
+  database.Execute("DROP TABLE a");
+  EXPECT_EQ(ask("SELECT count(*) FROM sqlite_schema WHERE name IN ('a', 'b')"), "1");
+  workspace.BeginTrans();
+  database.Execute("DROP TABLE b");
+  workspace.Rollback();
+  EXPECT_EQ(all_of("b"), "");
+}
+
 TEST_F(Execute, pours_one_table_into_another) {
   database.Execute("CREATE TABLE population (Zone integer, Sales DOUBLE)");
   database.Execute("CREATE TABLE sosec (Zone integer, Sales DOUBLE)");

@@ -11,8 +11,10 @@ namespace runtime::engine::dialect {
 
 namespace {
 
-std::string table_name(Tokens& tokens) {
-  return quoted_name(tokens.need_name());
+using Tables = std::vector<std::string>;
+
+std::string table_name(Tokens& tokens, Tables& tables) {
+  return quoted_name(tables.emplace_back(tokens.need_name()));
 }
 
 std::string where(Tokens& tokens) {
@@ -20,16 +22,16 @@ std::string where(Tokens& tokens) {
   return " WHERE " + ExpressionParser(tokens).condition();
 }
 
-std::string delete_rows(Tokens& tokens) {
+std::string delete_rows(Tokens& tokens, Tables& tables) {
   tokens.take_symbol("*");
   tokens.need_word("from");
-  const auto table = table_name(tokens);
+  const auto table = table_name(tokens, tables);
   return "DELETE FROM " + table + where(tokens);
 }
 
-std::string drop_table(Tokens& tokens) {
+std::string drop_table(Tokens& tokens, Tables& tables) {
   tokens.need_word("table");
-  return "DROP TABLE " + table_name(tokens);
+  return "DROP TABLE " + table_name(tokens, tables);
 }
 
 std::string column_type(Tokens& tokens) {
@@ -44,9 +46,9 @@ std::string column_type(Tokens& tokens) {
   tokens.fault();
 }
 
-std::string create_table(Tokens& tokens) {
+std::string create_table(Tokens& tokens, Tables& tables) {
   tokens.need_word("table");
-  auto sql = "CREATE TABLE " + table_name(tokens) + " (";
+  auto sql = "CREATE TABLE " + table_name(tokens, tables) + " (";
   tokens.need_symbol("(");
   const char* separator = "";
   do {
@@ -68,19 +70,19 @@ std::string selected_values(Tokens& tokens) {
   return sql;
 }
 
-std::string insert_rows(Tokens& tokens) {
+std::string insert_rows(Tokens& tokens, Tables& tables) {
   tokens.need_word("into");
-  auto sql = "INSERT INTO " + table_name(tokens) + " SELECT ";
+  auto sql = "INSERT INTO " + table_name(tokens, tables) + " SELECT ";
   tokens.need_word("select");
   sql += selected_values(tokens);
   tokens.need_word("from");
-  sql += " FROM " + table_name(tokens);
-  while (tokens.take_symbol(",")) sql += ", " + table_name(tokens);
+  sql += " FROM " + table_name(tokens, tables);
+  while (tokens.take_symbol(",")) sql += ", " + table_name(tokens, tables);
   return sql + where(tokens);
 }
 
-std::string update_rows(Tokens& tokens) {
-  auto sql = "UPDATE " + table_name(tokens) + " SET ";
+std::string update_rows(Tokens& tokens, Tables& tables) {
+  auto sql = "UPDATE " + table_name(tokens, tables) + " SET ";
   tokens.need_word("set");
   const char* separator = "";
   do {
@@ -94,13 +96,16 @@ std::string update_rows(Tokens& tokens) {
 
 struct StatementKind {
   std::string_view word;
+  Verb verb;
   int syntax_fault;
-  std::string (*translate)(Tokens&);
+  std::string (*translate)(Tokens&, Tables&);
 };
 constexpr std::array kinds{
-    StatementKind{"delete", 3075, delete_rows},  StatementKind{"drop", 3295, drop_table},
-    StatementKind{"create", 3290, create_table}, StatementKind{"insert", 3134, insert_rows},
-    StatementKind{"update", 3144, update_rows},
+    StatementKind{"delete", Verb::Delete, 3075, delete_rows},
+    StatementKind{"drop", Verb::Drop, 3295, drop_table},
+    StatementKind{"create", Verb::Create, 3290, create_table},
+    StatementKind{"insert", Verb::Insert, 3134, insert_rows},
+    StatementKind{"update", Verb::Update, 3144, update_rows},
 };
 
 // Read before all else, because the kind of statement says how its syntax faults are called.
@@ -112,18 +117,23 @@ std::string_view first_word(std::string_view sql) {
 
 }  // namespace
 
-std::string statement_to_sql(std::string_view sql) {
+Translation translated(std::string_view sql) {
   const auto word = first_word(sql);
   for (const auto& kind : kinds) {
     if (!same_word(word, kind.word)) continue;
     Tokens tokens(sql, kind.syntax_fault);
     tokens.need_word(kind.word);
-    auto translated = kind.translate(tokens);
+    Translation result{kind.verb, {}, {}};
+    result.sql = kind.translate(tokens, result.tables);
     tokens.take_symbol(";");
     if (!tokens.at_end()) tokens.fault();
-    return translated;
+    return result;
   }
   throw Fault(3129);
+}
+
+std::string statement_to_sql(std::string_view sql) {
+  return translated(sql).sql;
 }
 
 Selection parse_selection(std::string_view source) {
