@@ -1,5 +1,6 @@
 #include "runtime/forms/boxes.h"
 
+#include <QInputDialog>
 #include <QMessageBox>
 
 #include "runtime/fault.h"
@@ -52,6 +53,14 @@ int exec(QWidget* parent, const char* name, const QString& text, int style, cons
 
 int show_message(QWidget* parent, const std::string& prompt, int style, const std::string& title) {
   return exec(parent, "MsgBox", with_line_feeds(prompt), style, title);
+}
+
+std::string ask_for_text(QWidget* parent, const std::string& prompt, const std::string& title) {
+  QInputDialog box(parent);
+  box.setObjectName(QStringLiteral("InputBox"));
+  box.setWindowTitle(qt(title));
+  box.setLabelText(with_line_feeds(prompt));
+  return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
 void show_runtime_error(QWidget* parent, const Fault& fault, const std::string& title) {

@@ -15,6 +15,9 @@ namespace runtime::forms {
 /// number.
 int show_message(QWidget* parent, const std::string& prompt, int style, const std::string& title);
 
+/// "InputBox": asks for a line of text; returns "" when it is cancelled.
+std::string ask_for_text(QWidget* parent, const std::string& prompt, const std::string& title);
+
 /// "RuntimeError": the report of a fault that no trap took.
 void show_runtime_error(QWidget* parent, const Fault& fault, const std::string& title);
 

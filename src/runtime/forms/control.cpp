@@ -88,12 +88,13 @@ void Control::fire(Event event) {
   if (handler == handlers_.end()) return;
   // The handler may unload the form and this control with it.
   const auto running = handler->second;
-  running();
+  running(index_);
 }
 
-void Control::fire_from_person(Event event) {
+void Control::fire_from_person(Event event, std::optional<int> detail) {
   const auto handler = handlers_.find(event);
-  if (handler != handlers_.end()) desktop_->run_event(std::function<void()>(handler->second));
+  if (handler == handlers_.end()) return;
+  desktop_->run_event([running = handler->second, index = detail.value_or(index_)] { running(index); });
 }
 
 void Control::desktop_event(const std::function<void()>& action) {

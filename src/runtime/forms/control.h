@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "runtime/forms/design.h"
@@ -14,7 +15,9 @@ namespace runtime::forms {
 class ControlSet;
 class Desktop;
 
-enum class Event { Load, Resize, Click, Change, LostFocus };
+/// HeadClick hands over the column, from 0, and MouseUp the button (1 left, 2 right, 4 middle) in the place
+/// of the index of a control array.
+enum class Event { Load, Resize, Click, Change, LostFocus, HeadClick, MouseUp };
 
 class Control {
  public:
@@ -56,7 +59,8 @@ class Control {
   void set_tab_stop(bool tab_stop);
 
   /// Sets the handler of an event; a control without one passes the event over.
-  void on(Event event, std::function<void()> handler) { handlers_[event] = std::move(handler); }
+  /// It gets what the event hands over, and the control's index where that is nothing.
+  void on(Event event, std::function<void(int)> handler) { handlers_[event] = std::move(handler); }
   void forget_handlers() { handlers_.clear(); }
 
  protected:
@@ -73,7 +77,8 @@ class Control {
   /// The event as set off by code: the handler's fault passes to the caller.
   void fire(Event event);
   /// The event as set off by a person: it goes through the desktop's edge, which reports a fault.
-  void fire_from_person(Event event);
+  /// `detail` is what the event hands over in the place of an index.
+  void fire_from_person(Event event, std::optional<int> detail = std::nullopt);
   /// Runs what the control itself does on a person's behalf, through the same edge.
   void desktop_event(const std::function<void()>& action);
   Desktop& desktop() const { return *desktop_; }
@@ -90,7 +95,7 @@ class Control {
   bool enabled_ = true;
   std::string caption_;
   double font_size_ = 0;
-  std::map<Event, std::function<void()>> handlers_;
+  std::map<Event, std::function<void(int)>> handlers_;
 };
 
 }  // namespace runtime::forms

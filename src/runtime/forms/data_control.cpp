@@ -3,12 +3,23 @@
 #include <QFrame>
 #include <algorithm>
 
+#include "runtime/forms/data_grid.h"
 #include "runtime/forms/desktop.h"
 
 namespace runtime::forms {
 
 QWidget* DataControl::make_widget(QWidget* parent) {
   return new QFrame(parent);
+}
+
+void DataControl::attach(DBGrid& grid) {
+  grids_.push_back(&grid);
+  grid.bind(recordset_);
+}
+
+engine::Recordset& DataControl::recordset() {
+  for (DBGrid* grid : grids_) grid->records_touched();
+  return recordset_;
 }
 
 void DataControl::open() {
@@ -22,7 +33,12 @@ bool DataControl::has_record() const {
   return recordset_.is_set() && !recordset_.eof() && !recordset_.bof();
 }
 
+void DataControl::post_grids() {
+  for (DBGrid* grid : grids_) grid->post();
+}
+
 void DataControl::post() {
+  post_grids();
   const bool any_changed =
       std::any_of(boxes_.begin(), boxes_.end(), [](const auto& row) { return row.box->changed; });
   if (!any_changed || !has_record()) return;
@@ -35,7 +51,8 @@ void DataControl::post() {
 }
 
 void DataControl::Refresh() {
-  recordset_.Requery();
+  post_grids();
+  if (!table_.empty()) recordset_.Requery();
   fill();
 }
 
@@ -45,11 +62,24 @@ void DataControl::MoveFirst() {
   fill();
 }
 
+void DataControl::set_recordset(engine::Recordset recordset) {
+  post_grids();
+  recordset_ = std::move(recordset);
+  fill();
+}
+
+void DataControl::close_database() {
+  if (recordset_.is_set()) recordset_.Close();
+  if (database_.is_set()) database_.Close();
+  for (DBGrid* grid : grids_) grid->records_changed();
+}
+
 void DataControl::fill() {
   for (const BoundField& row : boxes_) {
     row.box->show_value(has_record() ? recordset_.field(row.field) : Value());
     row.box->changed = false;
   }
+  for (DBGrid* grid : grids_) grid->records_changed();
 }
 
 }  // namespace runtime::forms

@@ -23,17 +23,23 @@ class Bound {
   bool changed = false;
 };
 
+class DBGrid;
+
 class DataControl : public Control {
  public:
   using Control::Control;
   Kind kind() const override { return Kind::Data; }
 
   void attach(Bound& box, const char* field) { boxes_.push_back({&box, field}); }
-  /// Opens the project database by its bare name, so the current directory decides, and fills the boxes.
+  void attach(DBGrid& grid);
+  /// Opens the project database by its bare name, so the current directory decides, and fills boxes and
+  /// grids.
   void open();
-  /// Stores the boxes that were changed, and only their fields. Without a record there is nowhere to store.
+  /// Stores the edits of its grids, then the boxes that were changed, and only their fields. Without a record
+  /// there is nowhere to store.
   void post();
-  /// Reads the table anew and puts the stored values back into the boxes.
+  /// Stores the edits of its grids, reads the table anew and puts the stored values back into the boxes. One
+  /// that was handed its recordset keeps it as it is.
   void Refresh();
   /// Stores what the boxes hold, moves to the first record and fills the boxes from it.
   void MoveFirst();
@@ -42,7 +48,14 @@ class DataControl : public Control {
   Value field(const char* name) const { return recordset_.field(name); }
   Value field(int position) const { return recordset_.field(position); }
   int field_count() const { return recordset_.field_count(); }
-  engine::Recordset& recordset() { return recordset_; }
+  /// For code that moves or changes the records; the grids follow.
+  engine::Recordset& recordset();
+  /// Hands over other records; the grids store their edits into the old ones before, and show the new ones,
+  /// as the boxes do.
+  void set_recordset(engine::Recordset recordset);
+  /// 0 table, 1 dynaset. Nothing makes it another than a dynaset.
+  int recordset_type() const { return 1; }
+  void close_database();
 
  protected:
   QWidget* make_widget(QWidget* parent) override;
@@ -57,12 +70,14 @@ class DataControl : public Control {
   };
 
   bool has_record() const;
+  void post_grids();
   void fill();
 
   std::string table_;
   engine::Database database_;
   engine::Recordset recordset_;
   std::vector<BoundField> boxes_;
+  std::vector<DBGrid*> grids_;
 };
 
 }  // namespace runtime::forms

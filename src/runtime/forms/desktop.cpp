@@ -1,6 +1,6 @@
 #include "runtime/forms/desktop.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <new>
 #include <optional>
 #include <utility>
@@ -40,7 +40,23 @@ int Desktop::MsgBox(const std::string& prompt, int style, const std::string& tit
   return show_message(main_window, prompt, style, title.empty() ? program_title : title);
 }
 
+std::string Desktop::InputBox(const std::string& prompt, const std::string& title) {
+  return ask_for_text(main_window, prompt, title.empty() ? program_title : title);
+}
+
+void Desktop::beep() {
+  QApplication::beep();
+}
+
+void Desktop::set_pointer(Pointer pointer) {
+  if (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  if (pointer == Pointer::hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
 void Desktop::run_event(const std::function<void()>& handler) {
+  // Painted while long work is under way, a window may change its size, or be pressed by an assistive tool:
+  // nothing of the program runs inside the work.
+  if (workspace.progress) return;
   ++depth_;
   auto fault = fault_of(handler);
   --depth_;

@@ -53,6 +53,14 @@ class Desktop {
   /// number.
   int MsgBox(const std::string& prompt, int style = ok_only, const std::string& title = {});
 
+  /// Asks for a line of text; "" when it is cancelled.
+  std::string InputBox(const std::string& prompt, const std::string& title = {});
+  void beep();
+
+  enum class Pointer { normal, hourglass };
+  /// The pointer over every window of the program.
+  void set_pointer(Pointer pointer);
+
   /// The edge of every handler that a person sets off: a fault that no trap took ends in the run-time error
   /// report, and when the outermost handler ends, what was written is made durable.
   void run_event(const std::function<void()>& handler);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "runtime/forms/data_control.h"
+#include "runtime/forms/data_grid.h"
 #include "runtime/forms/desktop.h"
 #include "runtime/forms/form_window.h"
 #include "runtime/forms/twips.h"
@@ -58,7 +59,7 @@ void FormBase::tie_events() {
   for (const EventRow& row : events_) {
     for (Control* control : controls_->all()) {
       if (control->name() != row.control) continue;
-      control->on(row.event, [handler = row.handler, index = control->index()] { handler(index); });
+      control->on(row.event, row.handler);
     }
   }
   QObject::connect(window_, &FormWindow::resized, window_, [this] {
@@ -77,9 +78,17 @@ void FormBase::open_data_controls() {
   for (const ControlDesign& row : design_.controls) {
     if (row.binding.data == nullptr) continue;
     auto* data = dynamic_cast<DataControl*>(controls_->find(row.binding.data, row.binding.data_index));
-    auto* bound = dynamic_cast<Bound*>(controls_->find(row.name, row.index));
-    if (data == nullptr || bound == nullptr) throw Fault(51, std::string(row.name) + " can't be bound");
-    data->attach(*bound, row.binding.source);
+    Control* control = controls_->find(row.name, row.index);
+    auto* bound = dynamic_cast<Bound*>(control);
+    auto* grid = dynamic_cast<DBGrid*>(control);
+    if (data == nullptr || (bound == nullptr && grid == nullptr)) {
+      throw Fault(51, std::string(row.name) + " can't be bound");
+    }
+    if (grid != nullptr) {
+      data->attach(*grid);
+    } else {
+      data->attach(*bound, row.binding.source);
+    }
   }
   for (Control* control : controls_->all()) {
     if (auto* data = dynamic_cast<DataControl*>(control)) data->open();
@@ -136,6 +145,16 @@ void FormBase::apply_window_state() {
   }
 }
 
+void FormBase::Refresh() {
+  reference();
+  window_->surface()->repaint();
+}
+
+int FormBase::width() {
+  reference();
+  return twips(window_->width());
+}
+
 void FormBase::set_caption(const std::string& caption) {
   reference();
   caption_ = caption;
@@ -162,20 +181,22 @@ void FormBase::remove() {
   // Hiding moves the focus, and a control that notices must find neither its handlers nor a freed set.
   const std::unique_ptr<ControlSet> controls = std::move(controls_);
   for (Control* control : controls->all()) control->forget_handlers();
+  // Before the window goes: the area would make the first of the others active, and call that the last one
+  // used.
+  activate_next_form();
   FormWindow* window = std::exchange(window_, nullptr);
   window->disconnect();
   window->hide();
   if (desktop_.mdi_area != nullptr) desktop_.mdi_area->removeSubWindow(window);
   window->setParent(nullptr);
   window->deleteLater();
-  activate_next_form();
 }
 
 void FormBase::activate_next_form() {
   if (desktop_.mdi_area == nullptr) return;
   const auto windows = desktop_.mdi_area->subWindowList(QMdiArea::ActivationHistoryOrder);
-  const auto next =
-      std::find_if(windows.rbegin(), windows.rend(), [](auto* window) { return window->isVisible(); });
+  const auto next = std::find_if(windows.rbegin(), windows.rend(),
+                                 [this](auto* window) { return window != window_ && window->isVisible(); });
   if (next != windows.rend()) desktop_.mdi_area->setActiveSubWindow(*next);
 }
 

@@ -56,6 +56,10 @@ class FormBase {
   /// Removes the form and drops what its boxes hold.
   void unload_without_storing();
   void set_window_state(WindowState state);
+  /// Paints the form at once.
+  void Refresh();
+  /// The width of its window, frame included, in twips.
+  int width();
   void set_caption(const std::string& caption);
 
   /// The handlers of the form's controls, tied at each load.

@@ -91,6 +91,8 @@ void FormWindow::changeEvent(QEvent* event) {
 }
 
 void FormWindow::showEvent(QShowEvent* event) {
+  // Qt adds the system menu to any window that can be minimised, and the style draws a close box for it.
+  overrideWindowFlags(windowFlags() & ~Qt::WindowSystemMenuHint);
   QMdiSubWindow::showEvent(event);
   hide_buttons_in_menu_bar();
 }

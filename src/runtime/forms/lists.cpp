@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStorageInfo>
 
@@ -22,12 +24,25 @@ QComboBox& combo_of(const Control& control) {
   return *static_cast<QComboBox*>(control.widget());
 }
 
-/// A list that tells when the focus leaves it for another control, and not when another window comes up.
-class FocusList : public QListWidget {
+/// A list that tells when the focus leaves it for another control, and not when another window comes up, and
+/// when an entry is opened: by two clicks on every desktop, also on one that opens files by a single one.
+class DirectoryList : public QListWidget {
  public:
-  FocusList(QWidget* parent, std::function<void()> lost) : QListWidget(parent), lost_(std::move(lost)) {}
+  DirectoryList(QWidget* parent, std::function<void()> lost, std::function<void()> opened)
+      : QListWidget(parent), lost_(std::move(lost)), opened_(std::move(opened)) {}
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+      opened_();
+    } else {
+      QListWidget::keyPressEvent(event);
+    }
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr) opened_();
+  }
   void focusOutEvent(QFocusEvent* event) override {
     QListWidget::focusOutEvent(event);
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) lost_();
@@ -35,6 +50,7 @@ class FocusList : public QListWidget {
 
  private:
   std::function<void()> lost_;
+  std::function<void()> opened_;
 };
 
 QStringList ancestors(const QString& path) {
@@ -70,9 +86,12 @@ void ListBox::set_list(int position, const std::string& entry) {
 QWidget* DriveListBox::make_widget(QWidget* parent) {
   auto* combo = new QComboBox(parent);
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-    if (volume.isValid() && volume.isReady()) combo->addItem(QDir::toNativeSeparators(volume.rootPath()));
+    // A single file can be a volume, too, where programs run walled off from each other.
+    if (!volume.isValid() || !volume.isReady() || !QFileInfo(volume.rootPath()).isDir()) continue;
+    combo->addItem(QDir::toNativeSeparators(volume.rootPath()));
   }
-  QObject::connect(combo, &QComboBox::activated, combo, [this] { fire_from_person(Event::Change); });
+  QObject::connect(combo, &QComboBox::currentIndexChanged, combo,
+                   [this] { fire_from_person(Event::Change); });
   return combo;
 }
 
@@ -80,22 +99,46 @@ std::string DriveListBox::drive() const {
   return combo_of(*this).currentText().toStdString();
 }
 
+void DriveListBox::created(const ControlDesign&) {
+  const QSignalBlocker blocker(&combo_of(*this));
+  combo_of(*this).setCurrentIndex(place_of(QDir::currentPath().toStdString()));
+}
+
+int DriveListBox::place_of(const std::string& path) const {
+  const QString wanted = QDir::fromNativeSeparators(qt(path)) + u'/';
+  const QComboBox& combo = combo_of(*this);
+  int place = -1;
+  qsizetype longest = 0;
+  for (int i = 0; i < combo.count(); ++i) {
+    QString root = QDir::fromNativeSeparators(combo.itemText(i));
+    if (!root.endsWith(u'/')) root += u'/';
+    if (root.size() <= longest || !wanted.startsWith(root)) continue;
+    place = i;
+    longest = root.size();
+  }
+  return place;
+}
+
 void DriveListBox::set_drive(const std::string& path) {
-  const QString root = QDir::toNativeSeparators(QStorageInfo(qt(path)).rootPath());
-  const int place = combo_of(*this).findText(root);
+  const int place = place_of(path);
   if (place < 0) throw Fault(76, path);
-  if (place == combo_of(*this).currentIndex()) return;
-  combo_of(*this).setCurrentIndex(place);
+  QComboBox& combo = combo_of(*this);
+  if (place == combo.currentIndex()) return;
+  {
+    const QSignalBlocker blocker(&combo);
+    combo.setCurrentIndex(place);
+  }
   fire(Event::Change);
 }
 
+bool DriveListBox::is_drive_of(const std::string& path) const {
+  return place_of(path) == combo_of(*this).currentIndex();
+}
+
 QWidget* DirListBox::make_widget(QWidget* parent) {
-  auto* list = new FocusList(parent, [this] { fire_from_person(Event::LostFocus); });
-  QObject::connect(list, &QListWidget::itemActivated, list, [this] {
-    const std::string chosen = highlighted();
-    desktop_event([this, chosen] { set_path(chosen); });
-  });
-  return list;
+  return new DirectoryList(
+      parent, [this] { fire_from_person(Event::LostFocus); },
+      [this] { desktop_event([this] { set_path(highlighted()); }); });
 }
 
 void DirListBox::created(const ControlDesign&) {

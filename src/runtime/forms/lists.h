@@ -29,15 +29,26 @@ class DriveListBox : public Control {
   using Control::Control;
   Kind kind() const override { return Kind::DriveListBox; }
 
+  /// The chosen volume's root; "" without any.
   std::string drive() const;
-  /// Chooses the volume on which the path lies; fires Change when it is another one.
+  /// Chooses the volume on which the path lies; fires Change when it is another one. Fault 76 when the path
+  /// lies on none.
   void set_drive(const std::string& path);
+  /// Whether the path lies on the chosen volume, and not on another one below that.
+  bool is_drive_of(const std::string& path) const;
 
  protected:
   QWidget* make_widget(QWidget* parent) override;
+  /// Starts at the volume of the current directory.
+  void created(const ControlDesign& design) override;
+
+ private:
+  /// The place in the list of the volume on which the path lies, -1 when it lies on none.
+  int place_of(const std::string& path) const;
 };
 
-/// The directories below a path, with the path's own line of ancestors above them.
+/// The directories below a path, with the path's own line of ancestors above them. A double click or Enter
+/// opens the highlighted one.
 class DirListBox : public Control {
  public:
   using Control::Control;

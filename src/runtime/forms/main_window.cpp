@@ -1,16 +1,19 @@
 #include "runtime/forms/main_window.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPixmap>
 #include <QScreen>
+#include <QStatusBar>
 #include <vector>
 
 #include "runtime/fault.h"
 #include "runtime/forms/desktop.h"
+#include "runtime/forms/status_line.h"
 #include "runtime/forms/twips.h"
 
 namespace runtime::forms {
@@ -43,6 +46,17 @@ class PictureArea : public QMdiArea {
   QPixmap picture_;
 };
 
+/// A line of text that never makes the window wider. It is there when it says nothing, too: coming and going,
+/// it would resize the work forms.
+void add_status_line(QMainWindow& window) {
+  auto* line = new QLabel(&window);
+  line->setObjectName(QString::fromLatin1(status_line_name));
+  line->setTextFormat(Qt::PlainText);
+  line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  window.statusBar()->setSizeGripEnabled(false);
+  window.statusBar()->addWidget(line, 1);
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Desktop& desktop, const std::string& caption, const QString& picture,
@@ -54,6 +68,7 @@ MainWindow::MainWindow(Desktop& desktop, const std::string& caption, const QStri
   desktop_.main_window = this;
   desktop_.mdi_area = area_;
   build_menu(menu);
+  add_status_line(*this);
 }
 
 MainWindow::~MainWindow() {

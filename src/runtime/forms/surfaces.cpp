@@ -23,12 +23,20 @@ void Label::show_caption(const std::string& caption) {
 
 void Label::placed() {
   auto* label = static_cast<QLabel*>(widget());
-  if ((label->alignment() & Qt::AlignRight) != 0) return;
-  label->resize(std::max(pixels(place()).width(), label->sizeHint().width()), label->height());
+  const QRect own = pixels(place());
+  QRect room(own);
+  room.setWidth(std::max(own.width(), label->sizeHint().width()));
+  if ((label->alignment() & Qt::AlignRight) != 0) room.moveRight(own.right());
+  label->setGeometry(room);
 }
 
 void Label::align_right() {
   static_cast<QLabel*>(widget())->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  placed();
+}
+
+void Label::align_bottom() {
+  static_cast<QLabel*>(widget())->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
 }
 
 QWidget* Frame::make_widget(QWidget* parent) {

@@ -10,6 +10,7 @@ class Label : public Control {
   using Control::Control;
   Kind kind() const override { return Kind::Label; }
   void align_right();
+  void align_bottom();
 
  protected:
   QWidget* make_widget(QWidget* parent) override;

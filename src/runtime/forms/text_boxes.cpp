@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "runtime/forms/twips.h"
 #include "runtime/text/numbers.h"
@@ -16,6 +17,16 @@ namespace {
 class MaskedLineEdit : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
+
+  /// A number that is longer than the mask is shown whole: a part of it would be another number.
+  void show_number(const QString& number) {
+    const auto beyond = std::max<qsizetype>(0, number.size() - pattern.size());
+    setInputMask(pattern + QString(beyond, u'0') + QStringLiteral(";_"));
+    setText(number);
+    setCursorPosition(0);
+  }
+
+  QString pattern;  // of the mask, without its prompt
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
@@ -112,9 +123,9 @@ QLineEdit& MaskEdBox::edit() const {
 }
 
 void MaskEdBox::show_caption(const std::string& mask) {
-  QString pattern = qt(mask);
-  pattern.replace(u'#', u'0');  // a place that takes a digit or stays empty, never a sign
-  edit().setInputMask(pattern + QStringLiteral(";_"));
+  auto& box = static_cast<MaskedLineEdit&>(edit());
+  box.pattern = qt(mask).replace(u'#', u'0');  // a place that takes a digit or stays empty, never a sign
+  box.show_number({});
 }
 
 std::string MaskEdBox::text() const {
@@ -123,8 +134,7 @@ std::string MaskEdBox::text() const {
 
 void MaskEdBox::show_value(const Value& value) {
   const QSignalBlocker blocker(&edit());
-  edit().setText(qt(text::joined(value)));
-  edit().setCursorPosition(0);
+  static_cast<MaskedLineEdit&>(edit()).show_number(qt(text::joined(value)));
   changed = false;
 }
 

@@ -1,4 +1,8 @@
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTest>
 
 #include "small_form.h"
 
@@ -137,6 +141,55 @@ TEST_F(RuntimeErrorReport, the_error_object_is_empty_after_each_handler) {
 TEST_F(RuntimeErrorReport, is_not_shown_for_a_handler_without_a_fault) {
   as_handler([] {});
   EXPECT_THAT(analyst.boxes(), IsEmpty());
+}
+
+using InputBoxes = Boxes;
+
+TEST_F(InputBoxes, give_the_line_that_was_typed) {
+  analyst.will_enter("Origin > 3");
+  EXPECT_EQ(desktop.InputBox("Enter a filter\rfor the rows"), "Origin > 3");
+  EXPECT_EQ(box().name, "InputBox");
+  EXPECT_EQ(box().text, "Enter a filter\nfor the rows");
+  EXPECT_EQ(box().title, "Quelar");
+}
+
+TEST_F(InputBoxes, propose_nothing) {
+  analyst.will_press("OK");
+  EXPECT_EQ(desktop.InputBox("Words"), "");
+}
+
+TEST_F(InputBoxes, give_nothing_when_they_are_cancelled) {
+  analyst.when_box_shows = [this](const analyst::Box&) {
+    QTest::keyClicks(window.findChild<QInputDialog*>()->findChild<QLineEdit*>(), QStringLiteral("typed"));
+  };
+  analyst.will_press("Cancel");
+  EXPECT_EQ(desktop.InputBox("Words"), "");
+}
+
+TEST_F(InputBoxes, bear_a_title_of_their_own) {
+  analyst.will_press("OK");
+  desktop.InputBox("Words", "Filter");
+  EXPECT_EQ(box().title, "Filter");
+}
+
+using Pointers = Boxes;
+
+TEST_F(Pointers, stand_over_every_window_until_the_normal_one_is_back) {
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  desktop.set_pointer(rf::Desktop::Pointer::hourglass);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  desktop.set_pointer(rf::Desktop::Pointer::normal);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Pointers, do_not_pile_up) {
+  desktop.set_pointer(rf::Desktop::Pointer::hourglass);
+  desktop.set_pointer(rf::Desktop::Pointer::hourglass);
+  desktop.set_pointer(rf::Desktop::Pointer::normal);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  desktop.set_pointer(rf::Desktop::Pointer::normal);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 }  // namespace

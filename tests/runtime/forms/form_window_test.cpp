@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleOption>
 #include <QTest>
 
 #include "small_form.h"
@@ -100,6 +101,24 @@ TEST_F(FormWindows, a_form_has_no_close_box_and_no_system_menu) {
   EXPECT_EQ(frame_of(form).systemMenu(), nullptr);
 }
 
+TEST_F(FormWindows, a_title_bar_draws_the_boxes_of_its_size_and_none_to_close_it) {
+  form.Show();
+  const QMdiSubWindow& frame = frame_of(form);
+  const auto draws = [&frame](QStyle::SubControl box) {
+    QStyleOptionTitleBar bar;
+    bar.initFrom(&frame);
+    bar.rect = QRect(0, 0, 300, 24);
+    bar.titleBarFlags = frame.windowFlags();
+    return !frame.style()->subControlRect(QStyle::CC_TitleBar, &bar, box, &frame).isEmpty();
+  };
+  for (const auto state : {WindowState::normal, WindowState::minimized, WindowState::maximized}) {
+    form.set_window_state(state);
+    EXPECT_TRUE(draws(QStyle::SC_TitleBarMaxButton));
+    EXPECT_FALSE(draws(QStyle::SC_TitleBarCloseButton));
+    EXPECT_FALSE(draws(QStyle::SC_TitleBarSysMenu));
+  }
+}
+
 TEST_F(FormWindows, no_key_and_no_close_request_closes_a_form) {
   form.Show();
   for (const auto key : {Qt::Key_W, Qt::Key_F4, Qt::Key_Q}) {
@@ -120,6 +139,19 @@ TEST_F(FormWindows, a_maximised_form_puts_no_window_buttons_beside_the_menu) {
     const QWidget* buttons = window.menuBar()->cornerWidget(corner);
     EXPECT_TRUE(buttons == nullptr || !buttons->isVisible());
   }
+}
+
+TEST_F(FormWindows, of_several_the_one_used_last_is_active_again_after_an_unload) {
+  SmallForm first(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "First");
+  SmallForm second(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Second");
+  for (auto* shown : {&first, &second, &form}) {
+    shown->set_window_state(WindowState::maximized);
+    shown->Show();
+  }
+  form.Unload();
+  EXPECT_TRUE(desktop.mdi_area->activeSubWindow() == &frame_of(second));
+  EXPECT_GT(desktop.mdi_area->subWindowList(QMdiArea::StackingOrder).indexOf(&frame_of(second)),
+            desktop.mdi_area->subWindowList(QMdiArea::StackingOrder).indexOf(&frame_of(first)));
 }
 
 TEST_F(FormWindows, the_form_below_is_active_again_after_an_unload) {

@@ -42,6 +42,14 @@ TEST_F(MaskedBox, shows_prompts_alone_for_null) {
   EXPECT_EQ(form->MaskEdBox1.text(), "____");
 }
 
+TEST_F(MaskedBox, a_stored_number_that_is_longer_than_the_mask_is_never_cut) {
+  show_with("40000");
+  EXPECT_EQ(form->MaskEdBox1.text(), "40000");
+  EXPECT_EQ(analyst.text_of("MaskEdBox1"), "40000");
+  unload();
+  EXPECT_THAT(stored(), ElementsAre("40000"));
+}
+
 TEST_F(MaskedBox, typed_digits_replace_the_number_and_the_unload_stores_them) {
   show_with("24");
   analyst.type("MaskEdBox1", "3000");

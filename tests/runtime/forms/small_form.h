@@ -16,6 +16,7 @@
 #include "runtime/forms/buttons.h"
 #include "runtime/forms/common_dialog.h"
 #include "runtime/forms/data_control.h"
+#include "runtime/forms/data_grid.h"
 #include "runtime/forms/desktop.h"
 #include "runtime/forms/form.h"
 #include "runtime/forms/main_window.h"
@@ -29,6 +30,7 @@ namespace rf = runtime::forms;
 /// Every control that a small form may have. A form has those of its rows.
 struct SmallControls : rf::ControlSet {
   rf::Array<rf::DataControl> Data1{*this, "Data1"};
+  rf::One<rf::DBGrid> DBGrid1{*this, "DBGrid1"};
   rf::Array<rf::CommandButton> Command1{*this, "Command1"};
   rf::Array<rf::OptionButton> Option1{*this, "Option1"};
   rf::One<rf::CheckBox> Check1{*this, "Check1"};
