@@ -20,14 +20,18 @@ constexpr ControlDesign data(const char* name, int left, const char* table) {
           hidden,  enabled,  {nullptr, no_index, table}};
 }
 
-constexpr ControlDesign grid(const char* name, runtime::forms::Place place, bool visible, const char* label) {
-  return {name, no_index, Kind::DBGrid, nullptr, "", place, visible, enabled, {}, label};
+constexpr ControlDesign grid(const char* name, const char* data_control, runtime::forms::Place place,
+                             bool visible, const char* label) {
+  return {name, no_index, Kind::DBGrid, nullptr, "", place, visible, enabled, {data_control}, label};
 }
 
 constexpr ControlDesign button(const char* name, const char* caption, runtime::forms::Place place,
                                bool visible) {
   return {name, no_index, Kind::CommandButton, nullptr, caption, place, visible};
 }
+
+// Broken because the button is narrower than the words.
+constexpr const char* restore_defaults = "Restore\nDefaults";
 
 constexpr ControlDesign occupation(int row, const char* caption) {
   return {"Lbl_data4", row,     Kind::Label,
@@ -59,17 +63,17 @@ constexpr std::array controls{
     occupation(9, "Administrative Support"),
     occupation(10, "Private Household"),
     occupation(11, "Other Services"),
-    grid("DBGrid1", {1440, 120, 6855, 1215}, shown, "Commercial Parameters"),
-    grid("DBGrid2", {1440, 1320, 5295, 975}, hidden, "Speeds and % Highway"),
-    grid("DBGrid3", {1440, 2400, 6135, 465}, hidden, "Mode Shares"),
-    grid("DBGrid4", {3840, 2880, 3735, 495}, hidden, "Wages and Elasticity of Substitution (sigma)"),
-    button("Command7", "Restore Defaults", {7320, 4680, 855, 375}, hidden),
+    grid("DBGrid1", "Data1", {1440, 120, 6855, 1215}, shown, "Commercial Parameters"),
+    grid("DBGrid2", "Data2", {1440, 1320, 5295, 975}, hidden, "Speeds and % Highway"),
+    grid("DBGrid3", "Data3", {1440, 2400, 6135, 465}, hidden, "Mode Shares"),
+    grid("DBGrid4", "Data4", {3840, 2880, 3735, 495}, hidden, "Wages and Elasticity of Substitution (sigma)"),
+    button("Command7", restore_defaults, {7320, 4680, 855, 375}, hidden),
     button("Command3", "Save", {5640, 5160, 735, 375}, shown),
     button("Command1", "Cancel", {6480, 5160, 735, 375}, shown),
-    button("Command2", "Restore Defaults", {7320, 5160, 855, 375}, hidden),
+    button("Command2", restore_defaults, {7320, 5160, 855, 375}, hidden),
     button("Command4", "Save", {5640, 5640, 735, 375}, hidden),
     button("Command5", "Cancel", {6480, 5640, 735, 375}, hidden),
-    button("Command6", "Restore Defaults", {7320, 5640, 855, 375}, hidden),
+    button("Command6", restore_defaults, {7320, 5640, 855, 375}, hidden),
 };
 
 constexpr runtime::forms::FormDesign design{"Form1", "Form1", 8370, 6540, false, true, controls};

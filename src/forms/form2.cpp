@@ -67,7 +67,7 @@ constexpr std::array controls{
     industry(2, "Agriculture"),
     industry(3, "Service"),
     button("Command1", in_frame2, "Enter Commercial \n Trip Data", {120, 1920, 1815, 855}, shown),
-    button("Command3", in_frame2, "Enter Commuter Data", {120, 1920, 1815, 855}, hidden),
+    button("Command3", in_frame2, "Enter Commuter\nData", {120, 1920, 1815, 855}, hidden),
     button("Command2", in_frame2, "Quit-Return to\nMain Menu", {2040, 1920, 1815, 855}, shown),
     button("Command4", in_frame2, "Quit-Return to\nMain Menu", {2040, 1920, 1815, 855}, hidden),
     occupation(12, 1, "Precision production, craft, and repair"),

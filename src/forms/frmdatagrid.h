@@ -16,6 +16,24 @@
 
 namespace forms {
 
+/// The word for what a pass of the commuter entry asks for: red on grey.
+class PassLabel : public runtime::forms::Label {
+ public:
+  using Label::Label;
+
+ protected:
+  void created(const runtime::forms::ControlDesign& design) override;
+};
+
+/// A list of names, one under the other from the top.
+class ListLabel : public runtime::forms::Label {
+ public:
+  using Label::Label;
+
+ protected:
+  void created(const runtime::forms::ControlDesign& design) override;
+};
+
 struct FrmDataGridControls : runtime::forms::ControlSet {
   template <typename T>
   using One = runtime::forms::One<T>;
@@ -24,9 +42,9 @@ struct FrmDataGridControls : runtime::forms::ControlSet {
 
   One<runtime::forms::Shape> Shape1{*this, "Shape1"};
   One<runtime::forms::Shape> Shape2{*this, "Shape2"};
-  One<runtime::forms::Label> Label1{*this, "Label1"};
+  One<PassLabel> Label1{*this, "Label1"};
   Array<runtime::forms::Label> Label2{*this, "Label2"};
-  One<runtime::forms::Label> Label3{*this, "Label3"};
+  One<ListLabel> Label3{*this, "Label3"};
   One<runtime::forms::DataControl> DataLu{*this, "DataLu"};
   One<runtime::forms::DBGrid> grdDataGrid{*this, "grdDataGrid"};
   One<runtime::forms::PictureBox> picButtons{*this, "picButtons"};

@@ -36,7 +36,8 @@ inline std::string drawn(const rf::ControlDesign& row, const Drawn& what) {
   }
   if (what.state) line << (row.visible ? "" : " hidden") << (row.enabled ? "" : " disabled");
   if (what.binding && row.binding.data != nullptr) {
-    line << ' ' << with_index(row.binding.data, row.binding.data_index) << '.' << row.binding.source;
+    line << ' ' << with_index(row.binding.data, row.binding.data_index);
+    if (row.binding.source != nullptr) line << '.' << row.binding.source;
   } else if (what.binding && row.binding.source != nullptr) {
     line << " table " << row.binding.source;
   }

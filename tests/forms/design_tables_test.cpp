@@ -18,8 +18,15 @@ class DesignTables : public testing_aids::ProgramTest {
     check(program.form1, *program.form1.operator->());
     check(program.form2, *program.form2.operator->());
     check(program.form3, *program.form3.operator->());
+    leave_the_grid_something_to_load();
     check(program.frmDataGrid, *program.frmDataGrid.operator->());
     check(program.frmdirget, *program.frmdirget.operator->());
+  }
+
+  void leave_the_grid_something_to_load() {
+    analyst.choose("Times");
+    program.frmDataGrid.unload_without_storing();
+    program.frmdirget.unload_without_storing();
   }
 };
 

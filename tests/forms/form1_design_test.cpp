@@ -19,11 +19,11 @@ Data3 "Data3" 4200 6120 1935 300 hidden
 Data4 "Data4" 6240 6120 1935 300 hidden
 Command3 "Save" 5640 5160 735 375
 Command1 "Cancel" 6480 5160 735 375
-Command2 "Restore Defaults" 7320 5160 855 375 hidden
+Command2 "Restore/Defaults" 7320 5160 855 375 hidden
 Command4 "Save" 5640 5640 735 375 hidden
 Command5 "Cancel" 6480 5640 735 375 hidden
-Command6 "Restore Defaults" 7320 5640 855 375 hidden
-Command7 "Restore Defaults" 7320 4680 855 375 hidden
+Command6 "Restore/Defaults" 7320 5640 855 375 hidden
+Command7 "Restore/Defaults" 7320 4680 855 375 hidden
 Label1(0) "Manufacturing" 240 240 1095 255
 Label1(1) "Mining" 720 480 495 255
 Label1(2) "Agriculture" 480 720 855 255

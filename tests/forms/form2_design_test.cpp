@@ -37,7 +37,7 @@ Chcktrp(15) "Handlers, equipment cleaners, helpers"
 Chcktrp(16) "Armed Forces" hidden
 Command1 "Enter Commercial / Trip Data" in Frame2
 Command2 "Quit-Return to/Main Menu" in Frame2
-Command3 "Enter Commuter Data" in Frame2 hidden
+Command3 "Enter Commuter/Data" in Frame2 hidden
 Command4 "Quit-Return to/Main Menu" in Frame2 hidden
 Command5 "Save" in Frame1 hidden
 Command6 "Cancel " in Frame1 hidden

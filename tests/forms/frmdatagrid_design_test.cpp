@@ -9,7 +9,7 @@ namespace {
 using testing_aids::drawn_like;
 
 TEST(FrmDataGridDesign, has_the_controls_of_the_grid_and_its_range_strip) {
-  const std::string expected = R"(grdDataGrid ""
+  const std::string expected = R"(grdDataGrid "" DataLu
 DataLu "" hidden
 picButtons ""
 Cmdquit "Quit-Return to Main Menu" in picButtons
