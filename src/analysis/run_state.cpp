@@ -7,20 +7,11 @@
 namespace analysis {
 
 namespace {
-
 constexpr int last_entry = 13;
-
-std::int16_t number_in(const runtime::forms::MaskEdBox& box) {
-  return runtime::text::whole_16(runtime::text::val(box.text()));
-}
-
 }  // namespace
 
-std::int16_t zone_count(Program& program) {
-  return number_in(program.form2->MaskEdBox1);
-}
 std::int16_t district_count(Program& program) {
-  return number_in(program.form2->MaskEdBox2);
+  return runtime::text::whole_16(runtime::text::val(program.form2->MaskEdBox2.text()));
 }
 
 void forget_picks(Program& program) {

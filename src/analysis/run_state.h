@@ -5,13 +5,14 @@
 #include <string>
 
 #include "forms/program.h"
+#include "inputs/grid_mode.h"
 
 namespace analysis {
 
 using forms::Program;
 
-/// The numbers of zones and districts that the hidden Form2 holds, as 16-bit whole numbers.
-std::int16_t zone_count(Program& program);
+using inputs::zone_count;
+/// Its twin: the number of districts that the hidden Form2 holds.
 std::int16_t district_count(Program& program);
 
 /// Empties the entries 0 to PickCount of the picks, then PickCount, OutputFile and DistrictFile.

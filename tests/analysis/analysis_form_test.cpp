@@ -44,8 +44,9 @@ TEST_F(AnalysisForm, its_load_ends_any_editing_and_drops_what_was_unsaved) {
   program.form1.Show();
   program.form2.Show();
   analyst.type("MaskEdBox1", "99");
-  program.frmDataGrid.Load();
-  program.frmdirget.Load();
+  analyst.choose("Times");
+  EXPECT_TRUE(program.frmDataGrid.loaded());
+  EXPECT_TRUE(program.frmdirget.loaded());
   show();
   EXPECT_FALSE(program.form1.loaded());
   EXPECT_FALSE(program.frmDataGrid.loaded());
