@@ -24,8 +24,11 @@ struct MenuTableRow {
 };
 
 std::span<const MenuTableRow> menu_events();
+std::span<const EventTableRow> form1_events();
 std::span<const EventTableRow> form2_events();
 std::span<const EventTableRow> form3_events();
+std::span<const EventTableRow> frmdatagrid_events();
+std::span<const EventTableRow> frmdirget_events();
 
 /// Ties every event to its handler. Called once for a program.
 void tie_events(forms::Program& program);

@@ -1,0 +1,326 @@
+// The files that a data entry leaves, byte by byte, and how a save ends that cannot go on.
+#include "inputs/grid_save.h"
+
+#include <QApplication>
+
+#include "grid_page.h"
+#ifndef _WIN32
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include "ordinary_user.h"
+#endif
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+using ::testing::StartsWith;
+
+class GridSave : public testing_aids::GridPage {
+ protected:
+  void save_times_into(const std::string& directory) {
+    press_on_grid("cmdClose");
+    save_into(directory);
+  }
+
+  /// Saves into a directory that will fail: it is made, chosen and then spoilt.
+  void save_into_spoilt(const std::function<void(const std::filesystem::path&)>& spoil) {
+    const auto directory = app.file("spoilt");
+    std::filesystem::create_directories(directory);
+    choose_directory(directory.string());
+    spoil(directory);
+    analyst.forget_boxes();
+    analyst.will_press("OK");
+    press(program.frmdirget, "cmdExit");
+    EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  }
+
+  std::string hourglass() const { return QApplication::overrideCursor() == nullptr ? "normal" : "hourglass"; }
+};
+
+TEST_F(GridSave, of_one_zone_writes_a_line_in_each_of_three_files) {
+  open_times(1);
+  type_into_cell(0, 2, "2.5");
+  save_times_into("study");
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("base_time.txt", "1 1 \r\n"), Pair("distance.txt", "1 1 2.5\r\n"),
+                          Pair("imp_time.txt", "1 1 \r\n")));
+}
+
+TEST_F(GridSave, of_two_zones_writes_the_pairs_in_the_order_of_the_table) {
+  open_times(2);
+  fill(2, {"1", "2", "1", "2", "0.25"});
+  fill(3, {"1", "2", "1", "2", "10"});
+  type_into_cell(2, 4, "33");
+  save_times_into("study");
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("base_time.txt", "1 1 10\r\n1 2 10\r\n2 1 10\r\n2 2 10\r\n"),
+                          Pair("distance.txt", "1 1 0.25\r\n1 2 0.25\r\n2 1 0.25\r\n2 2 0.25\r\n"),
+                          Pair("imp_time.txt", "1 1 \r\n1 2 \r\n2 1 33\r\n2 2 \r\n")));
+}
+
+TEST_F(GridSave, of_twelve_zones_writes_all_pairs) {
+  open_times(12);
+  fill(2, {"1", "12", "1", "12", "7"});
+  save_times_into("study");
+  std::string distances;
+  for (int origin = 1; origin <= 12; ++origin) {
+    for (int destination = 1; destination <= 12; ++destination) {
+      distances += std::to_string(origin) + " " + std::to_string(destination) + " 7\r\n";
+    }
+  }
+  EXPECT_EQ(app.bytes("study/distance.txt"), distances);
+}
+
+TEST_F(GridSave, of_times_takes_the_table_and_not_what_a_filter_or_a_sort_shows) {
+  open_times(2);
+  analyst.will_enter("Origin = 2");
+  press_on_grid("cmdFilter");
+  save_times_into("study");
+  EXPECT_EQ(app.bytes("study/distance.txt"), "1 1 \r\n1 2 \r\n2 1 \r\n2 2 \r\n");
+}
+
+TEST_F(GridSave, unloads_the_forms_and_opens_the_menus) {
+  open_times(1);
+  save_times_into("study");
+  EXPECT_EQ(loaded_forms(), "");
+  EXPECT_TRUE(analyst.item_enabled("Inputs"));
+  EXPECT_EQ(hourglass(), "normal");
+  for (int number = 1; number <= 3; ++number) EXPECT_FALSE(program.desktop.files.is_open(number));
+}
+
+TEST_F(GridSave, replaces_the_files_of_an_earlier_one_whatever_their_case) {
+  std::filesystem::create_directories(app.file("study"));
+  app.put_file("study/DISTANCE.TXT", "old and longer than what comes now\r\n");
+  app.put_file("study/other.txt", "stays");
+  open_times(1);
+  save_times_into("study");
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("base_time.txt", "1 1 \r\n"), Pair("distance.txt", "1 1 \r\n"),
+                          Pair("imp_time.txt", "1 1 \r\n"), Pair("other.txt", "stays")));
+}
+
+TEST_F(GridSave, of_trips_writes_a_file_for_each_chosen_industry) {
+  open_trips(2, {1, 3});
+  fill(2, {"1", "2", "1", "2", "12.5"});
+  type_into_cell(3, 3, "100");
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_THAT(files_in("study"), ElementsAre(Pair("trips_Mining.txt",
+                                                  "         1         1      12.5\r\n"
+                                                  "         1         2      12.5\r\n"
+                                                  "         2         1      12.5\r\n"
+                                                  "         2         2      12.5\r\n"),
+                                             Pair("trips_Service.txt",
+                                                  "         1         1          \r\n"
+                                                  "         1         2          \r\n"
+                                                  "         2         1          \r\n"
+                                                  "         2         2       100\r\n")));
+  EXPECT_EQ(app.bytes("trips.csv"), "(none)");
+  EXPECT_EQ(hourglass(), "normal");
+  EXPECT_FALSE(program.frmDataGrid.SaveClone.is_set());
+  EXPECT_EQ(loaded_forms(), "");
+}
+
+TEST_F(GridSave, of_trips_describes_each_file_by_its_own_lines) {
+  open_trips(1, {1});
+  press_on_grid("cmdClose");
+  const std::string description = app.bytes("schema2.inp") + "COL3=Mining Double Width 10\r\n";
+  save_into("study");
+  EXPECT_EQ(app.bytes("schema.ini"), description);
+}
+
+TEST_F(GridSave, of_trips_numbers_the_origins_by_the_place_of_the_record) {
+  open_trips(2, {1});
+  app.sql("UPDATE sosec SET Origin = 77");
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/trips_Mining.txt"),
+            "         1         1          \r\n         1         2          \r\n"
+            "         2         1          \r\n         2         2          \r\n");
+}
+
+TEST_F(GridSave, of_sorted_trips_numbers_the_origins_in_the_sorted_order) {
+  open_trips(2, {1});
+  app.sql("UPDATE sosec SET Mining = 10 * Origin + Destination");
+  analyst.will_enter("Destination");
+  press_on_grid("cmdSort");
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/trips_Mining.txt"),
+            "         1         1        11\r\n         2         2        12\r\n"
+            "         1         1        21\r\n         2         2        22\r\n");
+}
+
+TEST_F(GridSave, of_filtered_trips_stops_at_the_end_of_the_records_with_the_hourglass_on) {
+  open_trips(2, {1});
+  app.sql("UPDATE sosec SET Origin = 77");
+  analyst.will_enter("Destination = 2");
+  press_on_grid("cmdFilter");
+  press_on_grid("cmdClose");
+  analyst.forget_boxes();
+  analyst.will_press("OK");
+  save_into("study");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3021':"));
+  EXPECT_THAT(files_in("study"), IsEmpty());
+  EXPECT_EQ(hourglass(), "hourglass");
+  EXPECT_THAT(sosec(), ElementsAre("77|1|null", "1|2|null", "77|1|null", "1|2|null"));
+  EXPECT_EQ(loaded_forms(), "Form2*- Frmdirget*");
+  as_handler([this] { program.desktop.set_pointer(runtime::forms::Desktop::Pointer::normal); });
+}
+
+TEST_F(GridSave, of_commuters_writes_residents_and_workers_for_each_occupation) {
+  open_population(3, {11, 7});
+  fill(1, {"1", "3", "", "", "40"});
+  fill(2, {"1", "2", "", "", "1.5"});
+  press_on_grid("cmdClose");
+  fill(1, {"2", "3", "", "", "7"});
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_THAT(files_in("study"), ElementsAre(Pair("commute _Sales.txt",
+                                                  "         1        40          \r\n"
+                                                  "         2        40         7\r\n"
+                                                  "         3        40         7\r\n"),
+                                             Pair("commute _Service.txt",
+                                                  "         1       1.5          \r\n"
+                                                  "         2       1.5          \r\n"
+                                                  "         3                    \r\n")));
+  EXPECT_EQ(
+      app.bytes("schema.ini"),
+      app.bytes("schema4.inp") + "COL2=Service Double Width 10\r\nCOL3=Service_emp   Double Width 10\r\n");
+  EXPECT_EQ(hourglass(), "normal");
+  EXPECT_EQ(loaded_forms(), "");
+  EXPECT_TRUE(analyst.item_enabled("Inputs"));
+}
+
+TEST_F(GridSave, of_commuters_leaves_out_a_zone_that_one_of_the_passes_lacks) {
+  open_population(3, {7});
+  app.sql("DELETE FROM sosec WHERE Zone = 2");
+  press_on_grid("cmdClose");
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/commute _Sales.txt"),
+            "         1                    \r\n         3                    \r\n");
+}
+
+TEST_F(GridSave, of_an_unknown_mode_writes_nothing) {
+  open_times(1);
+  press_on_grid("cmdClose");
+  for (const char* word : {"commuter_trip", "", "freight"}) {
+    as_handler([&] {
+      program.form2->Text1(2).set_text(word);
+      inputs::frmdatagrid::savfle(program);
+    });
+  }
+  save_into("study");
+  EXPECT_THAT(files_in("study"), IsEmpty());
+}
+
+TEST_F(GridSave, of_daily_trips_writes_one_file_when_it_is_called) {
+  open_daily_trips(2);
+  fill(2, {"1", "2", "1", "2", "3.5"});
+  press_on_grid("cmdClose");
+  std::filesystem::create_directories(app.file("study"));
+  choose_directory(app.file("study").string());
+  as_handler([this] { inputs::frmdatagrid::savcommutrip(program); });
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("commutrip.txt", "1 1 3.5\r\n1 2 3.5\r\n2 1 3.5\r\n2 2 3.5\r\n")));
+}
+
+TEST_F(GridSave, into_a_vanished_directory_ends_in_a_report_and_can_be_done_again_elsewhere) {
+  open_times(1);
+  press_on_grid("cmdClose");
+  save_into_spoilt([](const auto& directory) { std::filesystem::remove(directory); });
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '76':"));
+  EXPECT_EQ(loaded_forms(), "Form2- Frmdirget*");
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/distance.txt"), "1 1 \r\n");
+}
+
+TEST_F(GridSave, of_trips_into_a_vanished_directory_ends_in_a_report) {
+  open_trips(1, {1});
+  press_on_grid("cmdClose");
+  save_into_spoilt([](const auto& directory) { std::filesystem::remove(directory); });
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '76':"));
+  EXPECT_EQ(hourglass(), "hourglass");
+  as_handler([this] { program.desktop.set_pointer(runtime::forms::Desktop::Pointer::normal); });
+}
+
+TEST_F(GridSave, over_a_directory_of_a_file_s_name_leaves_what_was_written_by_then) {
+  open_times(1);
+  press_on_grid("cmdClose");
+  save_into_spoilt(
+      [](const auto& directory) { std::filesystem::create_directory(directory / "base_time.txt"); });
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '75':"));
+  EXPECT_THAT(app.names_in("spoilt"), ElementsAre("base_time.txt", "distance.txt"));
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/imp_time.txt"), "1 1 \r\n");
+}
+
+#ifndef _WIN32
+TEST_F(GridSave, into_a_directory_without_permission_ends_in_a_report) {
+  open_times(1);
+  press_on_grid("cmdClose");
+  std::filesystem::create_directory(app.file("locked"));
+  choose_directory(app.file("locked").string());
+  std::filesystem::permissions(app.file("locked"),
+                               std::filesystem::perms::group_write | std::filesystem::perms::others_write |
+                                   std::filesystem::perms::owner_write,
+                               std::filesystem::perm_options::remove);
+  analyst.will_press("OK");
+  {
+    const testing_aids::OrdinaryUser user;
+    ASSERT_TRUE(user);
+    press(program.frmdirget, "cmdExit");
+  }
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '75':"));
+  EXPECT_THAT(app.names_in("locked"), IsEmpty());
+  save_into("study");
+  EXPECT_EQ(app.bytes("study/distance.txt"), "1 1 \r\n");
+}
+
+/// While it lives, no file grows beyond so many bytes.
+class SmallDisk {
+ public:
+  explicit SmallDisk(rlim_t bytes) : signal_before_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit small{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+  }
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+  ~SmallDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signal_before_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*signal_before_)(int);
+};
+
+TEST_F(GridSave, that_runs_out_of_room_ends_in_a_report_with_what_was_written_and_can_be_done_again) {
+  open_times(12);
+  fill(3, {"1", "12", "1", "12", "7"});
+  press_on_grid("cmdClose");
+  std::filesystem::create_directory(app.file("small"));
+  choose_directory(app.file("small").string());
+  analyst.will_press("OK");
+  {
+    const SmallDisk disk(100);
+    press(program.frmdirget, "cmdExit");
+  }
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '57':"));
+  EXPECT_THAT(last_box(), ::testing::EndsWith("small/base_time.txt"));
+  EXPECT_EQ(loaded_forms(), "Form2- Frmdirget*");
+  EXPECT_EQ(app.names_in("small").size(), 3U);
+  save_into("small");
+  EXPECT_THAT(app.bytes("small/base_time.txt"), ::testing::EndsWith("12 12 7\r\n"));
+  EXPECT_EQ(loaded_forms(), "");
+}
+#endif
+
+}  // namespace
