@@ -51,7 +51,7 @@ void write_cost(Program& program, Database& db, Recordset& row, const std::strin
 }
 
 void copy_time_files(Program& program, Database& db, const std::string& truck) {
-  constexpr std::array stems{"distance", "base_time", "imp_time"};
+  static const std::array<std::string, 11> stems{"distance", "base_time", "imp_time"};
   auto& files = program.desktop.files;
   ignoring_faults([&] {
     const auto paths = db.OpenRecordset("select * from timdist");

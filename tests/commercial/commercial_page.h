@@ -39,6 +39,13 @@ class CommercialPage : public CommuterPage {
     pick("Command7", "sample/districts.txt");
   }
 
+  /// What stands after an end that forgets the picks, with the current directory as told.
+  static std::string first_step_again(const std::string& directory = {}) {
+    return "forms:\nopen files:\nnew levels: 0\ndirectory: ." + directory +
+           "\npicks:\nmenus: Inputs Run spec_timdist spec_comm\n";
+  }
+
+  static constexpr const char* completed = "Analysis Completed [OK]";
   static constexpr const char* mining = "sample/trips_Mining.txt";
   static constexpr const char* summary_of_mining =
       "The Number of Zones= 24\nThe Number of Districts= 0\nThe industries areMining\n"

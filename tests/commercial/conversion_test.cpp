@@ -55,6 +55,50 @@ TEST_F(Conversion, a_bare_commodity_name_gives_an_empty_first_line) {
   EXPECT_EQ(app.bytes("truck/ttc.txt"), "\r\n 24 \r\n");
 }
 
+TEST_F(Conversion, a_backslash_parts_the_directory_of_the_commodity_file_too) {
+  app.sql("UPDATE Anfiles SET TonsFile = 'sample\\tons.txt'");
+  analyst.choose("mnu_tonstotrucks");
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), "sample\\\r\n 24 \r\n");
+}
+
+TEST_F(Conversion, passes_every_row_and_column_on_in_stored_order) {
+  app.sql(
+      "DROP TABLE tontotruck; CREATE TABLE tontotruck (z TEXT, y INTEGER, x REAL, w REAL) STRICT;"
+      "INSERT INTO tontotruck VALUES ('grain', 9, -0.25, 100), (NULL, 1, 2.5, 1234567), ('ore', 5, 0, 1e20)");
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/tontotruck.txt"),
+            "  grain  9  -0.25  100\r\n    1  2.5  1234567\r\n  ore  5  0  1E+20\r\n");
+}
+
+TEST_F(Conversion, takes_the_distance_file_that_the_page_shows) {
+  open_truck_page();
+  pick("Command4(5)", "sample/imp_time.txt");
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), app.bytes("sample/imp_time.txt"));
+  EXPECT_THAT(app.rows("SELECT distance FROM timdist"), ElementsAre(in_app("sample/imp_time.txt")));
+}
+
+TEST_F(Conversion, finds_its_files_in_its_own_directory) {
+  program_does("directory where.txt\ncopy ttc.txt seen.txt\nwrite Err.txt 0\\r\\n\n");
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/where.txt"), in_app("truck"));
+  EXPECT_EQ(app.bytes("truck/seen.txt"), in_app("sample") + "/\r\n 24 \r\n");
+}
+
+TEST_F(Conversion, keeps_the_picks_of_an_earlier_page) {
+  program.form3.PickCount = 1;
+  program.form3.PickCode(1) = "2";
+  program.form3.DistrictFile = "kept";
+  open_truck_page();
+  press_and_answer({"OK"});
+  EXPECT_EQ(program.form3.PickCount, 1);
+  EXPECT_EQ(program.form3.PickCode(1), "2");
+  EXPECT_EQ(program.form3.DistrictFile, "kept");
+}
+
 TEST_F(Conversion, removes_what_an_earlier_run_left_before_it_starts) {
   app.put_file("truck/district.txt", "old");
   app.put_file("truck/err.txt", "1, old\r\n");

@@ -96,6 +96,8 @@ TEST(CommercialWriters, a_stream_that_fails_at_any_byte_is_a_fault) {
       parameter_file,
       variation_of(35, 1.2),
       costs_of({20.0, 1.5, 0.25, 2.0, 0.8}),
+      [](std::ostream& stream) { analysis::write_one_value(stream, 4.62F); },
+      [](std::ostream& stream) { analysis::write_no_districts(stream); },
       [](std::ostream& stream) {
         write_conversion_row(stream, {std::int64_t{3}, 12.5, 0.5});
       },

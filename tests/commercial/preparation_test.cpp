@@ -56,6 +56,39 @@ TEST_F(Preparation, deletes_old_costs_in_truck_and_old_trips_in_the_application_
   EXPECT_EQ(app.bytes("trktrp4.txt"), "(none)");
 }
 
+TEST_F(Preparation, copies_only_the_time_files_that_exist) {
+  app.sql("UPDATE timdist SET base_time = NULL, improvement_time = 'sample/none.txt'");
+  prepare();
+  EXPECT_THAT(app.names_in("truck/trktrp"), ::testing::ElementsAre("distance.txt"));
+}
+
+TEST_F(Preparation, passes_over_a_table_of_time_files_without_a_row) {
+  app.sql("DELETE FROM timdist");
+  prepare();
+  EXPECT_THAT(app.names_in("truck/trktrp"), IsEmpty());
+}
+
+TEST_F(Preparation, names_no_file_for_a_path_behind_the_third) {
+  app.sql("ALTER TABLE timdist ADD COLUMN more TEXT; UPDATE timdist SET more = 'sample/districts.txt'");
+  prepare();
+  EXPECT_EQ(app.bytes("truck/trktrp/.txt"), app.bytes("sample/districts.txt"));
+}
+
+TEST_F(Preparation, writes_nothing_for_an_empty_field_but_its_comma) {
+  app.sql("UPDATE Commercial SET \"Unit Cost\" = NULL, sigma = 0.5");
+  add_pick("2", "");
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), "0.5,5469,,50,1,95,\r\n");
+}
+
+TEST_F(Preparation, without_the_directory_of_the_time_copies_writes_all_else) {
+  std::filesystem::remove_all(app.file("truck/trktrp"));
+  add_pick("2", in_app(mining));
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), "4.62,5469,25.04,50,1,95,\r\n");
+  EXPECT_FALSE(std::filesystem::exists(app.file("truck/trktrp")));
+}
+
 TEST_F(Preparation, failing_statements_are_skipped) {
   std::filesystem::remove_all(app.file("truck/trktrp"));
   add_pick("2", in_app("sample/none.txt"));
@@ -63,6 +96,8 @@ TEST_F(Preparation, failing_statements_are_skipped) {
   prepare();
   EXPECT_EQ(app.bytes("truck/outpar.txt"), app.path() + "\\truck\r\n9\r\n 2 \r\n2\r\n77\r\n");
   EXPECT_EQ(app.bytes("truck/trktrp77.txt"), app.bytes(mining));
+  EXPECT_EQ(app.bytes("truck/trktrp2.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/cost77.txt"), "\r\n");
   EXPECT_FALSE(program.desktop.files.is_open(1));
 }
 

@@ -9,19 +9,11 @@ using ::testing::Key;
 using ::testing::UnorderedElementsAre;
 using CommercialModel = testing_aids::CommercialPage;
 
-constexpr const char* first_step_again = R"(forms:
-open files:
-new levels: 0
-directory: .
-picks:
-menus: Inputs Run spec_timdist spec_comm
-)";
-
 TEST_F(CommercialModel, a_good_run_tells_so_clears_its_files_and_goes_back_to_the_first_step) {
   make_ready();
   press_and_answer({"Yes", "OK"});
   EXPECT_THAT(shown(), ElementsAre(summary_of_mining, "Analysis Completed [OK]"));
-  EXPECT_EQ(left(), first_step_again);
+  EXPECT_EQ(left(), first_step_again());
   EXPECT_THAT(model_files(), UnorderedElementsAre(Key("Err.txt"), Key("stand_in.txt")));
 }
 
@@ -55,7 +47,7 @@ TEST_F(CommercialModel, a_refusal_is_told_without_a_blank_and_the_files_go_all_t
   make_ready();
   press_and_answer({"Yes", "OK"});
   EXPECT_EQ(shown().back(), "error occured in program execution!no trips [OK]");
-  EXPECT_EQ(left(), first_step_again);
+  EXPECT_EQ(left(), first_step_again());
   EXPECT_THAT(model_files(), UnorderedElementsAre(Key("Err.txt"), Key("stand_in.txt")));
 }
 
