@@ -47,6 +47,7 @@ int add_row(void* rows, int count, char** fields, char**) {
 
 Installation::Installation() {
   fs::copy_file(PROJECT_DATABASE, file("zelmor.mdb"));
+  fs::copy(TEMPLATES, directory_.path());
   fs::copy(SAMPLE_STUDY, file("sample"), fs::copy_options::recursive);
   for (const char* name : {"commuter", "truck", "results"}) fs::create_directory(file(name));
   for (const char* market : {"commuter", "truck"}) {

@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGroupBox>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -37,6 +38,7 @@ Box describe(QDialog& dialog) {
     box.icon = message->icon();
     for (const auto* button : message->buttons()) box.buttons.push_back(caption_of(*button));
   }
+  if (const auto* input = qobject_cast<QInputDialog*>(&dialog)) box.text = input->labelText().toStdString();
   if (const auto* file = qobject_cast<QFileDialog*>(&dialog)) {
     box.directory = file->directory().absolutePath().toStdString();
     box.filter = file->nameFilters().value(0).toStdString();
@@ -105,6 +107,19 @@ void Analyst::will_press(const std::string& button) {
     if (press(dialog, button)) return;
     complain("no button " + button + " on " + describe(dialog).text);
     dialog.reject();
+  });
+}
+
+void Analyst::will_enter(const std::string& text) {
+  answers_.push_back([this, text](QDialog& dialog) {
+    auto* edit = dialog.findChild<QLineEdit*>();
+    if (qobject_cast<QInputDialog*>(&dialog) == nullptr || edit == nullptr) {
+      complain("a box that asks for a text was expected, not: " + describe(dialog).text);
+      return dialog.reject();
+    }
+    edit->selectAll();
+    QTest::keyClicks(edit, qt(text));
+    press(dialog, "OK");
   });
 }
 

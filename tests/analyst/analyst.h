@@ -35,6 +35,8 @@ class Analyst : public QObject {
 
   // What the analyst will do when the next boxes come up, in this order.
   void will_press(const std::string& button);
+  /// Into a box that asks for a line of text.
+  void will_enter(const std::string& text);
   void will_choose_file(const std::string& path);
   void will_cancel_file();
   /// Called when the next box stands on the screen, before it is answered.
