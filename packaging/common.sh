@@ -3,7 +3,7 @@
 run_packages=(cmake ninja-build g++ qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core)
 screen_packages=(xvfb xauth)  # a virtual screen, for the demonstration and the journeys
 test_packages=(libgtest-dev libgmock-dev python3 clang-format locales ccache)
-bench_packages=(libbenchmark-dev time)
+bench_packages=(libbenchmark-dev sqlite3 time)
 
 export CCACHE_SLOPPINESS=pch_defines,time_macros  # without it headers that are compiled once are never found again
 
