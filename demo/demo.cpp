@@ -2,6 +2,7 @@
 // windows, takes a picture of every screen on the way, and prints where the report lies.
 #include <QApplication>
 #include <QDir>
+#include <QHeaderView>
 #include <QScreen>
 #include <QTest>
 #include <cstdio>
@@ -25,6 +26,10 @@ class Demonstration {
 
   int play() {
     picture("main_window");
+    enter_zones();
+    enter_times_and_distances();
+    choose_markets();
+    edit_parameters();
     specify_time_and_distance();
     run_commuter_analysis();
     specify_time_and_distance();
@@ -36,6 +41,69 @@ class Demonstration {
   }
 
  private:
+  void enter_zones() {
+    analyst_.choose("Zones");
+    analyst_.type("MaskEdBox1", "24");
+    picture("number_of_zones");
+    analyst_.will_press("Yes");
+    analyst_.click("Command5");
+  }
+
+  void enter_times_and_distances() {
+    analyst_.choose("Times");
+    pick_column(2);
+    const char* const range[] = {"1", "24", "1", "24", "12.5"};
+    for (int box = 0; box < 5; ++box) {
+      const std::string name = "txt_zonedit(" + std::to_string(box) + ")";
+      analyst_.type(name, range[box]);
+    }
+    picture("range_filled");
+    analyst_.click("cmd_zonedit(0)");
+    analyst_.click("cmdRefresh");
+    picture("times_and_distances");
+    analyst_.click("cmdClose");
+    program_.frmdirget->dirList.set_path(program_.desktop.app_path + "/results");
+    picture("directory_chooser");
+    analyst_.click("cmdExit");
+  }
+
+  void choose_markets() {
+    analyst_.choose("Comm_pop");
+    analyst_.click("Chcktrp(7)");
+    analyst_.click("Chcktrp(12)");
+    picture("choice_of_occupations");
+    analyst_.click("Command3");
+    picture("population");
+    analyst_.click("Cmdquit");
+    analyst_.choose("CommerTdata");
+    analyst_.click("Chcktrp(1)");
+    picture("choice_of_industries");
+    analyst_.click("Command2");
+  }
+
+  /// Clicks the heading of a column of the grid.
+  void pick_column(int column) {
+    for (auto* heading : program_.mdiform1.window().findChildren<QHeaderView*>()) {
+      if (heading->orientation() != Qt::Horizontal || !heading->isVisible()) continue;
+      const QPoint place(heading->sectionViewportPosition(column) + 10, heading->height() / 2);
+      QTest::mouseClick(heading->viewport(), Qt::LeftButton, {}, place);
+    }
+  }
+
+  void edit_parameters() {
+    look_at("commute_param_sw", "parameters_wages", "Command5");
+    look_at("Commute_param_ms", "parameters_mode_shares", "Command1");
+    look_at("Commerparam", "parameters_commercial", "Command1");
+    look_at("mnu_rel", "parameters_reliability", "Command1");
+  }
+
+  void look_at(const std::string& editor, const QString& picture_name, const std::string& cancel) {
+    analyst_.choose(editor);
+    picture(picture_name);
+    analyst_.will_press("Yes");
+    analyst_.click(cancel);
+  }
+
   void specify_time_and_distance() {
     choose("spec_timdist", "menu_first_step");
     picture("time_and_distance");
