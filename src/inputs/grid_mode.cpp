@@ -22,8 +22,9 @@ std::string column_list(forms::Program& program) {
 }
 
 void add_to_column_list(forms::Program& program, std::string_view name, std::string_view type) {
-  const std::string column = "," + std::string(name) + " " + std::string(type);
-  program.form2->Text1(column_list_box).set_text(column_list(program) + column);
+  std::string columns = column_list(program);
+  columns.append(",").append(name).append(" ").append(type);
+  program.form2->Text1(column_list_box).set_text(columns);
 }
 
 std::int16_t zone_count(forms::Program& program) {
