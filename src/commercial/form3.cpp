@@ -24,14 +24,7 @@ void retry_end(Program& program) {
 
 void reset_end(Run& run) {
   Program& program = run.program;
-  analysis::forget_picks(program);
-  run.RunSummary.clear();
-  program.form3.Unload();
-  program.form2.Unload();
-  program.form1.Unload();
-  program.desktop.files.Close(1);
-  program.desktop.files.Close(2);
-  if (!run.PendingMessage.empty()) program.desktop.MsgBox(run.PendingMessage);
+  analysis::take_down(run);
   runtime::ignoring_faults([&] { run.db.Close(); });
   shell::EnableMenus(program);
   program.mdiform1.spec_CuCo.set_enabled(false);

@@ -15,10 +15,6 @@ End tell(Run& run, const std::string& message, End end) {
   return end;
 }
 
-bool file_found(Run& run, const std::string& path) {
-  return !run.program.desktop.files.Dir(path).empty();
-}
-
 End check_choices(Run& run) {
   Program& program = run.program;
   run.ZoneCount = analysis::zone_count(program);
@@ -26,7 +22,7 @@ End check_choices(Run& run) {
   if (run.ZoneCount == 0) return tell(run, analysis::no_zones_message, End::plain);
   if (program.form3.OutputFile.empty()) {
     program.form1.Unload();
-    return tell(run, "No Output File Specified!", End::retry);
+    return tell(run, analysis::no_output_message, End::retry);
   }
   run.OutputBase = analysis::output_base(program.form3.OutputFile);
   if (program.form3.PickCount == 0) return tell(run, market.no_picks, End::retry);
@@ -47,7 +43,7 @@ void write_variations(Run& run) {
 /// With "FILE" the word in outpar.txt is all that changes: the file itself is neither tested nor copied.
 End choose_reliability(Run& run) {
   const auto mode = analysis::reliability_mode(run.program);
-  if (!mode) return tell(run, "Please select an option for reliability analysis!", End::plain);
+  if (!mode) return tell(run, analysis::no_reliability_message, End::plain);
   run.ReliabilityMode = *mode;
   if (*mode == "DB") write_variations(run);
   return End::go_on;
@@ -61,7 +57,7 @@ End bring_district_file(Run& run) {
     program.form1.Unload();
     return tell(run, "No District File Specified!", End::plain);
   }
-  if (!file_found(run, file)) return tell(run, "File " + file + " not Found!", End::retry);
+  if (!analysis::file_found(run, file)) return tell(run, "File " + file + " not Found!", End::retry);
   program.desktop.files.FileCopy(file, path_of(run, "/district.txt"));
   return End::go_on;
 }
@@ -69,7 +65,7 @@ End bring_district_file(Run& run) {
 End check_time_files(Run& run) {
   for (int i = 0; i <= 2; ++i) {
     const std::string file = runtime::text::joined(run.program.form3->Data1(1).field(i));
-    if (!file_found(run, file)) {
+    if (!analysis::file_found(run, file)) {
       run.PendingMessage = "file " + file + " not found!";
       return End::reset;
     }
@@ -102,11 +98,11 @@ End write_district_line(Run& run) {
   }
   run.DistrictCount = analysis::district_count(program);
   if (run.DistrictCount == 0) {
-    return tell(run, "Please specify number of Districts under - Prepare Inputs - Menu Item! ", End::retry);
+    return tell(run, analysis::no_districts_message, End::retry);
   }
   if (run.DistrictCount > run.ZoneCount) {
     program.form1.Unload();
-    return tell(run, "Number of Districts greater than zones!", End::retry);
+    return tell(run, analysis::many_districts_message, End::retry);
   }
   analysis::write_districts(out, run.DistrictCount);
   return End::go_on;
@@ -118,7 +114,7 @@ End copy_picks(Run& run) {
   auto& files = run.program.desktop.files;
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& path = form3.PickPath(i);
-    if (!file_found(run, path)) {
+    if (!analysis::file_found(run, path)) {
       run.PendingMessage = "File" + path + "not Found!";
       return End::plain;
     }

@@ -1,15 +1,14 @@
 // The commercial run: what its driver's steps share.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "analysis/market.h"
-#include "forms/program.h"
-#include "runtime/engine/database.h"
+#include "analysis/run.h"
 
 namespace commercial {
 
+using analysis::Run;
 using forms::Program;
 
 /// The commercial market's row of the table of what differs between the markets.
@@ -21,18 +20,6 @@ enum class End {
   plain,  // nothing is closed, cleared or undone
   retry,  // the form stays with its picks
   reset,  // the picks are forgotten, the forms go, the workflow starts anew
-};
-
-/// The locals of one press of the button.
-struct Run {
-  Program& program;
-  std::int16_t ZoneCount = 0;
-  std::int16_t DistrictCount = 0;
-  std::string ReliabilityMode = {};
-  std::string OutputBase = {};
-  std::string RunSummary = {};
-  std::string PendingMessage = {};
-  runtime::engine::Database db = {};
 };
 
 /// The path of a model file; `name` brings its own leading "/".

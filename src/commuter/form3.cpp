@@ -24,13 +24,7 @@ void retry_end(Program& program) {
 
 void reset_end(Run& run) {
   Program& program = run.program;
-  analysis::forget_picks(program);
-  program.form3.Unload();
-  program.form2.Unload();
-  program.form1.Unload();
-  program.desktop.files.Close(1);
-  program.desktop.files.Close(2);
-  if (!run.PendingMessage.empty()) program.desktop.MsgBox(run.PendingMessage);
+  analysis::take_down(run);
   run.db.Close();
   shell::EnableMenus(program);
   analysis::reopen_time_and_distance(program);

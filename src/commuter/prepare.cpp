@@ -18,10 +18,6 @@ End tell(Run& run, const std::string& message, End end, int style = runtime::for
   return end;
 }
 
-bool file_found(Run& run, const std::string& path) {
-  return !run.program.desktop.files.Dir(path).empty();
-}
-
 End check_choices(Run& run) {
   Program& program = run.program;
   run.ZoneCount = analysis::zone_count(program);
@@ -33,7 +29,7 @@ End check_choices(Run& run) {
   run.OutputBase = analysis::output_base(program.form3.OutputFile);
   if (program.form3.OutputFile.empty()) {
     program.form1.Unload();
-    program.desktop.MsgBox("No Output File Specified!");
+    program.desktop.MsgBox(analysis::no_output_message);
     program.form3.set_window_state(runtime::forms::WindowState::maximized);
     return End::retry;
   }
@@ -52,7 +48,7 @@ void write_variation_file(Run& run, const char* name, int speed_field) {
 
 End choose_reliability(Run& run) {
   const auto mode = analysis::reliability_mode(run.program);
-  if (!mode) return tell(run, "Please select an option for reliability analysis!", End::retry);
+  if (!mode) return tell(run, analysis::no_reliability_message, End::retry);
   run.ReliabilityMode = *mode;
   if (*mode == "DB") write_base_variation(run);
   return End::go_on;
@@ -63,7 +59,7 @@ End bring_reliability_file(Run& run) {
   if (run.ReliabilityMode != "file") return End::go_on;
   auto& desktop = run.program.desktop;
   const std::string file = joined(run.program.form3->Data1(0).field("relfile"));
-  if (!file_found(run, file)) {
+  if (!analysis::file_found(run, file)) {
     run.PendingMessage = std::to_string(desktop.MsgBox("file " + file + " not found!", exclamation));
     return End::reset;
   }
@@ -74,7 +70,7 @@ End bring_reliability_file(Run& run) {
 End check_time_files(Run& run) {
   for (int i = 0; i <= 2; ++i) {
     const std::string file = joined(run.program.form3->Data1(1).field(i));
-    if (!file_found(run, file)) {
+    if (!analysis::file_found(run, file)) {
       return tell(run, "file " + file + " not found. Please respecify file. ", End::bail, exclamation);
     }
   }
@@ -114,17 +110,17 @@ End bring_district_file(Run& run) {
   Program& program = run.program;
   if (program.form3->Check1.value() != 1) return End::go_on;
   const std::string& file = program.form3.DistrictFile;
-  if (file.empty() || !file_found(run, file)) {
+  if (file.empty() || !analysis::file_found(run, file)) {
     return tell(run, "File " + file + " not Found or not Specified!", End::retry);
   }
   program.desktop.files.FileCopy(file, path_of(run, "/district.txt"));
   run.DistrictCount = analysis::district_count(program);
   if (run.DistrictCount == 0) {
-    return tell(run, "Please specify number of Districts under - Prepare Inputs - Menu Item! ", End::reset);
+    return tell(run, analysis::no_districts_message, End::reset);
   }
   if (run.DistrictCount > run.ZoneCount) {
     program.form1.Unload();
-    return tell(run, "Number of Districts greater than zones!", End::reset);
+    return tell(run, analysis::many_districts_message, End::reset);
   }
   return End::go_on;
 }
@@ -145,7 +141,7 @@ End write_picks(Run& run) {
   for (const int number : parameter_files) write_pick_count(files.out(number), form3.PickCount);
   for (int i = 1; i <= form3.PickCount; ++i) {
     const std::string& path = form3.PickPath(i);
-    if (!file_found(run, path)) return tell(run, "File " + path + " not Found!", End::reset);
+    if (!analysis::file_found(run, path)) return tell(run, "File " + path + " not Found!", End::reset);
     files.FileCopy(path, path_of(run, std::string("/") + market.picked_file + form3.PickCode(i) + ".txt"));
     for (const int number : parameter_files) write_pick(files.out(number), form3.PickCode(i));
   }
