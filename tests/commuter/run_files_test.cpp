@@ -1,6 +1,5 @@
 // The files that stand in the model directory when the run asks its question.
-#include <locale>
-
+#include "comma_locale.h"
 #include "commuter_page.h"
 
 namespace {
@@ -181,31 +180,9 @@ TEST_F(CommuterFiles, keep_a_negative_parameter_apart_from_the_one_before) {
             " .25          -1 \r\n0              .7629 -.5  .1394  .0048 \r\n");
 }
 
-/// A country where numbers have a comma, in the C library and in streams, as long as it lives.
-class CommaLocale {
- public:
-  CommaLocale() {
-    try {
-      std::locale::global(std::locale("de_DE.UTF-8"));
-      is_there_ = true;
-    } catch (const std::runtime_error&) {
-      is_there_ = false;  // not every machine has it
-    }
-  }
-  CommaLocale(const CommaLocale&) = delete;
-  CommaLocale& operator=(const CommaLocale&) = delete;
-  ~CommaLocale() { std::locale::global(before_); }
-
-  bool is_there() const { return is_there_; }
-
- private:
-  std::locale before_;
-  bool is_there_ = false;
-};
-
 TEST_F(CommuterFiles, hold_points_where_the_country_writes_commas) {
-  const CommaLocale locale;
-  if (!locale.is_there()) GTEST_SKIP() << "there is no comma locale";
+  const testing_aids::CommaLocale locale;
+  ASSERT_TRUE(locale);
   app.sql("UPDATE commuter SET wage = 12345.5");
   make_ready();
   make_files();

@@ -4,13 +4,8 @@
 #include <QApplication>
 
 #include "grid_page.h"
-#ifndef _WIN32
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "ordinary_user.h"
-#endif
+#include "small_disk.h"
 
 namespace {
 
@@ -282,26 +277,6 @@ TEST_F(GridSave, into_a_directory_without_permission_ends_in_a_report) {
   EXPECT_EQ(app.bytes("study/distance.txt"), "1 1 \r\n");
 }
 
-/// While it lives, no file grows beyond so many bytes.
-class SmallDisk {
- public:
-  explicit SmallDisk(rlim_t bytes) : signal_before_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  SmallDisk(const SmallDisk&) = delete;
-  SmallDisk& operator=(const SmallDisk&) = delete;
-  ~SmallDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, signal_before_);
-  }
-
- private:
-  rlimit before_{};
-  void (*signal_before_)(int);
-};
-
 TEST_F(GridSave, that_runs_out_of_room_ends_in_a_report_with_what_was_written_and_can_be_done_again) {
   open_times(12);
   fill(3, {"1", "12", "1", "12", "7"});
@@ -310,7 +285,7 @@ TEST_F(GridSave, that_runs_out_of_room_ends_in_a_report_with_what_was_written_an
   choose_directory(app.file("small").string());
   analyst.will_press("OK");
   {
-    const SmallDisk disk(100);
+    const testing_aids::SmallDisk disk(100);
     press(program.frmdirget, "cmdExit");
   }
   EXPECT_THAT(last_box(), StartsWith("Run-time error '57':"));

@@ -1,37 +1,17 @@
 // A full disk and a killed process in the middle of bulk work.
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
-#include <csignal>
 
 #include "runtime/engine/project_file.h"
+#include "small_disk.h"
 
 namespace runtime::engine {
 namespace {
 
 using testing::fault_of;
-
-/// While it stands, no file of this process grows beyond a size in bytes.
-class SmallDisk {
- public:
-  explicit SmallDisk(std::uintmax_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{static_cast<rlim_t>(bytes), before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~SmallDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  SmallDisk(const SmallDisk&) = delete;
-  SmallDisk& operator=(const SmallDisk&) = delete;
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
+using testing_aids::SmallDisk;
 
 // More pages than the store keeps in memory, so that the file itself is changed midway.
 class Interruption : public testing::ProjectFile {
