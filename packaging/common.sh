@@ -5,7 +5,10 @@ screen_packages=(xvfb xauth)  # a virtual screen, for the demonstration and the 
 test_packages=(libgtest-dev libgmock-dev python3 clang-format locales ccache)
 bench_packages=(libbenchmark-dev sqlite3 time)
 
-export CCACHE_SLOPPINESS=pch_defines,time_macros  # without it headers that are compiled once are never found again
+# For the compiler's cache: without the first, headers that are compiled once are never found again; without the
+# others, nothing is found that a checkout in another place has compiled.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+export CCACHE_BASEDIR=$top CCACHE_NOHASHDIR=1
 
 say() { printf '%s\n' "$*"; }
 give_up() { printf '%s\n' "$*" >&2; exit 1; }
