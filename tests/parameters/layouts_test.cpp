@@ -33,7 +33,7 @@ class ParameterLayouts : public testing_aids::ParameterPage, public ::testing::W
 
  private:
   static int fresh_width() {
-    constexpr int frame = 12;  // pixels
+    constexpr int frame = 12 + 2 * 8;  // pixels, with a margin on both sides
     return runtime::forms::twips(runtime::forms::pixels({0, 0, 8370, 0}).width() + frame);
   }
 

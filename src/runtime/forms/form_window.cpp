@@ -12,7 +12,7 @@ namespace runtime::forms {
 
 namespace {
 
-constexpr int margin = 8;       // pixels right of and below the last control
+constexpr int margin = 8;       // pixels around the controls
 constexpr QSize frame(12, 34);  // what the window's frame and title take
 constexpr const char* own_policy = "own focus policy";
 
@@ -58,7 +58,7 @@ FormWindow::FormWindow(const FormDesign& design, QWidget* parent)
   scroll_->setWidget(surface_);
   setWidget(scroll_);
   const QRect client = pixels({0, 0, design.client_width, design.client_height});
-  resize(client.size() + frame);
+  resize(client.size() + 2 * QSize(margin, margin) + frame);
 }
 
 void FormWindow::fit(const ControlSet& controls) {
