@@ -95,6 +95,18 @@ TEST(ExpressionSql, as_a_condition_needs_no_number) {
   EXPECT_EQ(condition_to_sql("zone", names), R"("Zone")");
 }
 
+TEST(ExpressionSql, says_beforehand_that_a_comparison_with_null_never_holds) {
+  EXPECT_EQ(condition_to_sql("Sales = NULL", names), R"((NULL AND ("Sales" = NULL)))");
+  EXPECT_EQ(condition_to_sql("Null <> zone", names), R"((NULL AND (NULL COLLATE NOCASE <> "Zone")))");
+}
+
+TEST_F(Expression, of_a_comparison_with_null_is_null) {
+  for (const char* text : {"zone = Null", "Null = Null", "Null <> 1", "Not zone = Null", "description < Null"})
+    EXPECT_EQ(value_of(text), "Null") << text;
+  EXPECT_FALSE(holds("Not zone = Null"));
+  EXPECT_TRUE(holds("zone = Null Or zone = 7"));
+}
+
 TEST_F(Expression, follows_the_order_of_its_operators) {
   EXPECT_EQ(value_of("2 + 3 * 4"), "14 whole");
   EXPECT_EQ(value_of("(2 + 3) * 4"), "20 whole");

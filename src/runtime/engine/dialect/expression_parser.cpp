@@ -16,6 +16,8 @@ namespace runtime::engine::dialect {
 
 namespace {
 
+constexpr const char* null_literal = "NULL";
+
 // What the store's own parser and this one can stack up is limited.
 constexpr int deepest_nesting = 30;
 
@@ -133,7 +135,10 @@ std::optional<ExpressionParser::Piece> ExpressionParser::test(const Piece& opera
 ExpressionParser::Piece ExpressionParser::compared(std::string_view symbol, const Piece& left,
                                                    const Piece& right) const {
   check_kinds(left, right);
-  return {"(" + collated(left) + " " + std::string(symbol) + " " + right.sql + ")", Kind::Number, true};
+  Piece result{"(" + collated(left) + " " + std::string(symbol) + " " + right.sql + ")", Kind::Number, true};
+  // No comparison with Null holds. Said in front, the store knows it before it walks over a large table.
+  if (left.sql == null_literal || right.sql == null_literal) result.sql = "(NULL AND " + result.sql + ")";
+  return result;
 }
 
 ExpressionParser::Piece ExpressionParser::like(const Piece& left) {
@@ -210,7 +215,7 @@ ExpressionParser::Piece ExpressionParser::primary() {
     case Token::Kind::Text:
       return {quoted_text(tokens_.next().text), Kind::Text};
     case Token::Kind::Word:
-      if (tokens_.take_word("null")) return {"NULL", Kind::Unknown};
+      if (tokens_.take_word("null")) return {null_literal, Kind::Unknown};
       return tokens_.is_symbol("(", 1) ? call() : column_piece();
     case Token::Kind::BracketedName:
       return column_piece();
