@@ -2,25 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <functional>
-#include <sstream>
-
-#include "failing_buffer.h"
-#include "faults.h"
+#include "writers.h"
 
 namespace commercial {
 namespace {
 
-using testing_aids::FailingBuffer;
-using testing_aids::fault_of;
-using Writer = std::function<void(std::ostream&)>;
-
-std::string written(const Writer& writer) {
-  std::ostringstream stream;
-  writer(stream);
-  return stream.str();
-}
+using testing_aids::Writer;
+using testing_aids::written;
 
 Writer variation_of(double first, double second) {
   return [=](std::ostream& stream) { write_variation(stream, first, second); };
@@ -103,14 +91,7 @@ TEST(CommercialWriters, a_stream_that_fails_at_any_byte_is_a_fault) {
       },
       [](std::ostream& stream) { write_conversion_parameters(stream, "D:\\freight\\", 24); },
   };
-  for (const Writer& writer : writers) {
-    const auto whole = written(writer).size();
-    for (std::size_t taken = 0; taken < whole; ++taken) {
-      FailingBuffer buffer(taken, ENOSPC);
-      std::ostream stream(&buffer);
-      EXPECT_EQ(fault_of([&] { writer(stream); }), 61) << taken;
-    }
-  }
+  for (const Writer& writer : writers) testing_aids::expect_fault_at_every_byte(writer);
 }
 
 }  // namespace

@@ -2,25 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <functional>
-#include <sstream>
-
-#include "failing_buffer.h"
-#include "faults.h"
+#include "writers.h"
 
 namespace commuter {
 namespace {
 
-using testing_aids::FailingBuffer;
-using testing_aids::fault_of;
-using Writer = std::function<void(std::ostream&)>;
-
-std::string written(const Writer& writer) {
-  std::ostringstream stream;
-  writer(stream);
-  return stream.str();
-}
+using testing_aids::expect_fault_at_every_byte;
+using testing_aids::Writer;
+using testing_aids::written;
 
 void picks_7_and_0(std::ostream& stream) {
   write_pick_count(stream, 2);
@@ -132,24 +121,6 @@ TEST(CostParameterFile, puts_the_last_two_fields_above_the_first_four) {
 TEST(CostParameterFile, keeps_a_negative_value_apart_from_the_value_before) {
   EXPECT_EQ(written(cost_parameters_of(-0.5, -1, 2, -3, -4, -5)),
             "-4            -5 \r\n0             -.5 -1  2 -3 \r\n");
-}
-
-// A writer whose stream gives up at any byte must say so: a cut file must never pass for a whole one.
-void expect_fault_at_every_byte(const Writer& writer) {
-  const std::string whole = written(writer);
-  for (std::size_t room = 0; room < whole.size(); ++room) {
-    FailingBuffer full(room, ENOSPC);
-    std::ostream on_full_disk(&full);
-    EXPECT_EQ(fault_of([&] { writer(on_full_disk); }), 61) << "after " << room << " bytes";
-    EXPECT_EQ(full.taken, whole.substr(0, full.taken.size()));
-    FailingBuffer broken(room, EIO);
-    std::ostream on_broken_disk(&broken);
-    EXPECT_EQ(fault_of([&] { writer(on_broken_disk); }), 57) << "after " << room << " bytes";
-  }
-  FailingBuffer enough(whole.size(), ENOSPC);
-  std::ostream stream(&enough);
-  EXPECT_EQ(fault_of([&] { writer(stream); }), 0);
-  EXPECT_EQ(enough.taken, whole);
 }
 
 TEST(ModelFileWriters, fault_wherever_their_stream_breaks) {

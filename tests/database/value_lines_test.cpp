@@ -2,20 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <sstream>
 #include <vector>
 
-#include "failing_buffer.h"
-#include "faults.h"
 #include "runtime/value.h"
+#include "writers.h"
 
 namespace {
 
 using database::ValueLines;
 using runtime::Value;
-using testing_aids::FailingBuffer;
-using testing_aids::fault_of;
 
 class Record : public runtime::engine::RecordView {
  public:
@@ -86,24 +82,9 @@ TEST(ValueLines, are_all_there_when_they_take_many_pieces) {
   EXPECT_TRUE(stream.str() == expected);
 }
 
-TEST(ValueLines, tell_of_a_full_disk_at_every_byte) {
+TEST(ValueLines, tell_of_a_disk_that_fails_at_any_byte) {
   const std::vector<Record> records{record(1, 1, 2.5), record(1, 2, 30.0)};
-  const std::string whole = lines_of(records);
-  for (std::size_t room = 0; room < whole.size(); ++room) {
-    FailingBuffer buffer(room, ENOSPC);
-    std::ostream stream(&buffer);
-    EXPECT_EQ(fault_of([&] { write(stream, records); }), 61) << room;
-    EXPECT_EQ(buffer.taken, whole.substr(0, room));
-  }
-  FailingBuffer buffer(whole.size(), ENOSPC);
-  std::ostream stream(&buffer);
-  EXPECT_EQ(fault_of([&] { write(stream, records); }), 0);
-}
-
-TEST(ValueLines, tell_of_a_drive_that_is_gone) {
-  FailingBuffer buffer(3, EIO);
-  std::ostream stream(&buffer);
-  EXPECT_EQ(fault_of([&] { write(stream, {record(1, 1, 2.5)}); }), 57);
+  testing_aids::expect_fault_at_every_byte([&](std::ostream& stream) { write(stream, records); });
 }
 
 }  // namespace
