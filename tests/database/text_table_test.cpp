@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <deque>
 #include <functional>
 #include <sstream>
@@ -193,6 +195,30 @@ TEST_F(Bridge, exports_one_and_twelve_zones) {
     export_mining();
     EXPECT_EQ(bytes_of("out/trips_Mining.txt"), expected) << zones;
   }
+}
+
+TEST_F(Bridge, writes_a_thousand_zones_as_printing_line_by_line_does) {
+  load_pairs(1000);
+  database_.Execute("UPDATE sosec set Mining = (origin * 1000 + destination) / 8");
+  export_mining();
+  std::ostringstream values;
+  std::deque<ValueLines> files;
+  files.emplace_back(values, "distance.txt", 2);
+  write_value_lines(files, database_.OpenRecordset("sosec"));
+  std::string trips;
+  std::string distances;
+  for (int origin = 1; origin <= 1000; ++origin) {
+    for (int destination = 1; destination <= 1000; ++destination) {
+      const double value = (origin * 1000 + destination) / 8.0;
+      std::array<char, 40> line{};
+      std::snprintf(line.data(), line.size(), "%10d%10d%10.15g\r\n", origin, destination, value);
+      trips += line.data();
+      std::snprintf(line.data(), line.size(), "%d %d %.15g\r\n", origin, destination, value);
+      distances += line.data();
+    }
+  }
+  EXPECT_EQ(hash_of(bytes_of("out/trips_Mining.txt")), hash_of(trips));
+  EXPECT_EQ(hash_of(values.str()), hash_of(distances));
 }
 
 TEST_F(Bridge, exports_residents_and_workers_of_the_zones_that_both_tables_have) {

@@ -9,7 +9,13 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-using GridClose = testing_aids::GridPage;
+class GridClose : public testing_aids::GridPage {
+ protected:
+  /// What was chosen changes its name behind the grid's back.
+  void rename_the_chosen_occupation() {
+    app.sql("UPDATE Occupations SET description = 'Tailors' WHERE occupation_number = 4");
+  }
+};
 
 TEST_F(GridClose, leaves_the_grid_for_the_chooser_and_minimizes_the_form_of_the_numbers) {
   open_times(2);
@@ -118,10 +124,7 @@ TEST_F(GridClose, in_the_population_pass_forgets_the_picked_names_but_not_how_ma
 
 TEST_F(GridClose, in_the_population_pass_asks_for_a_column_of_each_chosen_occupation) {
   open_population(2, {7});
-  as_handler([this] {
-    auto db = program.desktop.workspace.OpenDatabase("zelmor.mdb");
-    db.Execute("update occupations set description = 'Tailors' where occupation_number = 4");
-  });
+  rename_the_chosen_occupation();
   analyst.will_press("OK");
   press_on_grid("cmdClose");
   EXPECT_THAT(last_box(), StartsWith("Run-time error '3061':"));
@@ -141,10 +144,7 @@ TEST_F(GridClose, in_the_employment_pass_leads_to_the_chooser_and_ends_the_pass)
 
 TEST_F(GridClose, in_the_employment_pass_asks_for_a_column_of_each_chosen_occupation) {
   open_employment(2, {7});
-  as_handler([this] {
-    auto db = program.desktop.workspace.OpenDatabase("zelmor.mdb");
-    db.Execute("update occupations set description = 'Tailors' where occupation_number = 4");
-  });
+  rename_the_chosen_occupation();
   analyst.will_press("OK");
   press_on_grid("cmdClose");
   EXPECT_THAT(last_box(), StartsWith("Run-time error '3061':"));

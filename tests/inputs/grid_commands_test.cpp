@@ -191,6 +191,23 @@ TEST_F(GridCommands, quit_forgets_the_picks_and_unloads_every_work_form) {
   EXPECT_EQ(program.frmDataGrid.SelectedFieldsText, "");
 }
 
+TEST_F(GridCommands, quit_unloads_the_grid_first_and_the_parameters_last) {
+  open_times(1);
+  as_handler([this] {
+    program.form1.hide();
+    program.form3.hide();
+    program.frmdirget.hide();
+  });
+  std::vector<std::string> unloaded;
+  for (const auto* form : program.desktop.loaded_forms) {
+    QObject::connect(form->surface(), &QObject::destroyed,
+                     [&unloaded, name = form->name()] { unloaded.push_back(name); });
+  }
+  press_on_grid("Cmdquit");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_THAT(unloaded, ElementsAre("frmDataGrid", "Frmdirget", "Form3", "Form2", "Form1"));
+}
+
 TEST_F(GridCommands, quit_drops_what_is_being_typed_and_leaves_the_table) {
   open_times(2);
   fill(2, {"1", "2", "1", "2", "3"});

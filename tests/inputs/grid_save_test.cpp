@@ -33,6 +33,18 @@ class GridSave : public testing_aids::GridPage {
     EXPECT_EQ(analyst.last_box().name, "RuntimeError");
   }
 
+  /// Saves into "study", which ends in a report before the hourglass comes and before a file is touched.
+  void save_and_expect(const std::string& fault) {
+    std::filesystem::create_directories(app.file("study"));
+    const auto before = files_in("study");
+    analyst.forget_boxes();
+    analyst.will_press("OK");
+    save_into("study");
+    EXPECT_THAT(last_box(), StartsWith("Run-time error '" + fault + "':"));
+    EXPECT_EQ(files_in("study"), before);
+    EXPECT_EQ(hourglass(), "normal");
+  }
+
   std::string hourglass() const { return QApplication::overrideCursor() == nullptr ? "normal" : "hourglass"; }
 };
 
@@ -165,6 +177,46 @@ TEST_F(GridSave, of_filtered_trips_stops_at_the_end_of_the_records_with_the_hour
   EXPECT_THAT(sosec(), ElementsAre("77|1|null", "1|2|null", "77|1|null", "1|2|null"));
   EXPECT_EQ(loaded_forms(), "Form2*- Frmdirget*");
   as_handler([this] { program.desktop.set_pointer(runtime::forms::Desktop::Pointer::normal); });
+}
+
+TEST_F(GridSave, of_trips_with_no_industry_chosen_any_more_faults_before_it_changes_anything) {
+  open_trips(1, {1});
+  app.sql("UPDATE sosec SET Origin = 77; UPDATE Industries SET industry_number = 0");
+  press_on_grid("cmdClose");
+  save_and_expect("3021");
+  EXPECT_THAT(sosec(), ElementsAre("77|1|null"));
+}
+
+TEST_F(GridSave, of_trips_has_places_for_four_industries) {
+  open_trips(1, {0, 1, 2, 3});
+  app.sql("UPDATE sosec SET Origin = 77");
+  press_on_grid("cmdClose");
+  app.sql("INSERT INTO Industries SELECT * FROM Industries LIMIT 1");
+  save_and_expect("9");
+  EXPECT_EQ(sosec("WHERE Origin = 77").size(), 1U);
+}
+
+TEST_F(GridSave, of_commuters_with_no_occupation_chosen_any_more_faults_before_it_writes_anything) {
+  open_employment(1, {7});
+  press_on_grid("cmdClose");
+  app.sql("UPDATE Occupations SET occupation_number = 0");
+  save_and_expect("3021");
+}
+
+TEST_F(GridSave, of_commuters_has_places_for_thirteen_occupations) {
+  open_employment(1, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  press_on_grid("cmdClose");
+  app.sql("INSERT INTO Occupations SELECT * FROM Occupations WHERE occupation_number = 1");
+  save_and_expect("9");
+}
+
+TEST_F(GridSave, of_times_faults_on_an_empty_table_and_leaves_the_files_of_an_earlier_one) {
+  open_times(1);
+  press_on_grid("cmdClose");
+  app.sql("DELETE FROM sosec");
+  std::filesystem::create_directories(app.file("study"));
+  app.put_file("study/distance.txt", "1 1 5\r\n");
+  save_and_expect("3021");
 }
 
 TEST_F(GridSave, of_commuters_writes_residents_and_workers_for_each_occupation) {
