@@ -101,8 +101,9 @@ void measure(forms::Program& program, const std::string& directory, int zones) {
   }
   const std::string of = ", " + std::to_string(zones) + " zones";
   print("first rows of the grid" + of, first, "ms ", "goal: 50 or less");
-  print("longest of 200 jumps" + of, *std::max_element(times.begin(), times.end()), "ms ",
-        "goal: 20 or less");
+  std::sort(times.begin(), times.end());
+  print("a jump, the middle one of 200" + of, times[times.size() / 2], "ms ", "goal: 20 or less");
+  print("longest of 200 jumps" + of, times.back(), "ms ", "goal: 20 or less");
   print("memory above the idle program" + of, static_cast<double>(memory("VmHWM") - idle) / 1024, "MiB",
         "goal: under 64 at 9999 zones");
   form.unload_without_storing();
