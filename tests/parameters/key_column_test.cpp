@@ -1,4 +1,6 @@
 // A change that is being typed into a leading column of the industries is dropped; one that was left is kept.
+#include <QHeaderView>
+
 #include "parameter_page.h"
 
 namespace {
@@ -59,6 +61,19 @@ TEST_F(KeyColumn, a_click_into_the_open_sigma_drops_what_is_typed) {
   EXPECT_EQ(first_sigma(), as_installed);
 }
 
+TEST_F(KeyColumn, a_click_on_a_heading_or_on_the_row_s_selector_drops_what_is_typed) {
+  analyst.choose(commercial_editor);
+  auto* view = qobject_cast<QTableView*>(analyst.find("DBGrid1"));
+  for (QHeaderView* header : {view->horizontalHeader(), view->verticalHeader()}) {
+    type_into("DBGrid1", 0, sigma, "3");
+    ASSERT_TRUE(editing());
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(editing());
+  }
+  press("Command3", "Yes");
+  EXPECT_EQ(first_sigma(), as_installed);
+}
+
 TEST_F(KeyColumn, a_double_click_opens_the_sigma_and_leaves_it_open) {
   analyst.choose(commercial_editor);
   auto* view = qobject_cast<QTableView*>(analyst.find("DBGrid1"));
@@ -93,6 +108,13 @@ TEST_F(KeyColumn, a_move_to_another_row_keeps_what_was_typed) {
   analyst.choose(commercial_editor);
   type_into("DBGrid1", 0, sigma, "3");
   key("DBGrid1", Qt::Key_Down);
+  EXPECT_EQ(first_sigma(), "3.0");
+}
+
+TEST_F(KeyColumn, a_click_on_another_row_keeps_what_was_typed) {
+  analyst.choose(commercial_editor);
+  type_into("DBGrid1", 0, sigma, "3");
+  click_cell("DBGrid1", 2, 1);
   EXPECT_EQ(first_sigma(), "3.0");
 }
 

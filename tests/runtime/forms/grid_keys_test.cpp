@@ -319,6 +319,10 @@ TEST_F(GridGoTo, finds_a_row_in_another_order) {
 TEST_F(GridGoTo, tells_when_there_is_no_such_row) {
   go({{"GoToKey(0)", "70"}, {"GoToKey(1)", "101"}}, true);
   EXPECT_EQ(last_box(), "There is no row with Origin 70, Destination 101.");
+  app.sql("update pairs set Destination = 2000000000 where Origin = 100 and Destination = 100");
+  as_handler([&] { form->Data1(0).Refresh(); });
+  go({{"GoToKey(0)", "999999999999999"}, {"GoToKey(1)", "8"}}, true);
+  EXPECT_EQ(last_box(), "There is no row with Origin 999999999999999, Destination 8.");
   go({{"GoToRow", "10001"}}, true);
   EXPECT_EQ(last_box(), "There is no row 10001. The last row is 10000.");
   EXPECT_EQ(grid().current_row(), 0);

@@ -129,6 +129,19 @@ TEST_F(GridPaste, a_paste_stores_the_rows_buffer_first) {
   EXPECT_THAT(app.rows("select trips, cost from pairs limit 1"), ElementsAre("7.0|8.0"));
 }
 
+TEST_F(GridPaste, a_refused_paste_leaves_the_rows_buffer_to_be_taken_back) {
+  go_to(0, 2);
+  type("7");
+  press(Qt::Key_Tab);
+  put("some");
+  analyst.will_press("OK");
+  paste();
+  EXPECT_EQ(numbers(), untouched);
+  press(Qt::Key_Escape);
+  press(Qt::Key_Down);
+  EXPECT_EQ(numbers(), untouched);
+}
+
 TEST_F(GridPaste, a_block_with_too_many_rows_is_refused_whole) {
   go_to(3, 2);
   put("5\n6\n");

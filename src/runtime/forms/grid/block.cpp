@@ -102,9 +102,10 @@ Texts cells_of(std::string_view text) {
 
 void paste_block(Sheet& sheet, engine::Workspace& workspace, const Texts& texts, std::int64_t first,
                  std::span<const int> columns) {
-  sheet.post();
+  // A refused block changes nothing, not even what the edited row's buffer holds.
   refuse_what_does_not_fit(sheet, texts, first, columns);
   const auto rows = values_of(sheet, texts, first, columns);
+  sheet.post();
   workspace.BeginTrans();
   try {
     store(sheet.records(), rows, first, columns);

@@ -26,10 +26,14 @@ Keys keys_at(Sheet& sheet, std::int64_t row, std::size_t count) {
   return keys;
 }
 
-/// Where the keys stand when every combination has a row, counted from 1 and the last key fastest.
+/// Where the keys stand when every combination has a row, counted from 1 and the last key fastest. None when
+/// a key lies beyond the last row's.
 std::int64_t place_among_all(const Keys& keys, const Keys& last) {
   std::int64_t place = 0;
-  for (std::size_t i = 0; i < keys.size(); ++i) place = place * last[i] + keys[i] - 1;
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    if (keys[i] < 1 || keys[i] > last[i]) return -1;
+    place = place * last[i] + keys[i] - 1;
+  }
   return place;
 }
 

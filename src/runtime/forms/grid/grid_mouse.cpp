@@ -72,7 +72,9 @@ void GridView::select_all() {
 /// The cell at a place of the viewport, the nearest one for a place beside the cells.
 Cell GridView::cell_at(const QPoint& place) const {
   const int column = columnAt(place.x());
-  const int row = place.y() < 0 ? -1 : rowAt(place.y());
+  // Below the view stands one row more, which is not to be seen: the current one, when it is far off.
+  const bool inside = place.y() >= 0 && place.y() < viewport()->height();
+  const int row = inside ? rowAt(place.y()) : -1;
   Cell cell = sheet.current();
   if (column >= 0) cell.column = column;
   cell.row = row >= 0 ? model_->sheet_row(row) : top_ + (place.y() < 0 ? -1 : whole_rows_);

@@ -53,8 +53,13 @@ GridView::GridView(QWidget* parent)
   disconnect(selectors, &QHeaderView::sectionPressed, this, nullptr);
   disconnect(selectors, &QHeaderView::sectionEntered, this, nullptr);
   connect(selectors, &QHeaderView::sectionPressed, this, [this](int row) { select_row(row); });
+  // A click beside the cells is a click in the grid as well.
+  connect(selectors, &QHeaderView::sectionClicked, this, [this] { released(Qt::LeftButton); });
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-    if (const auto head_clicked = host.head_clicked) head_clicked(column);
+    const auto head_clicked = host.head_clicked;  // a click's handler may unload the form
+    const QPointer<GridView> still_there(this);
+    released(Qt::LeftButton);
+    if (still_there && head_clicked) head_clicked(column);
   });
   editor_->when_key = [this](QKeyEvent& event) { return editor_key(event); };
   editor_->when_released = [this](QMouseEvent& event) { released(event.button()); };
