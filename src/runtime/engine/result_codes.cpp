@@ -17,9 +17,13 @@ Fault fault_of_statement(std::string_view message) {
       std::pair{std::string_view("no such column: "), 3061},
       std::pair{std::string_view("ambiguous column name: "), 3079},
       std::pair{std::string_view("no such function: "), 3085},
+      std::pair{std::string_view("duplicate column name: "), 3191},
+      std::pair{std::string_view("too many arguments on function "), 3360},
   };
   for (const auto& [prefix, number] : prefixes)
     if (message.starts_with(prefix)) return Fault(number, std::string(message.substr(prefix.size())));
+
+  if (message.ends_with(" values were supplied")) return Fault(3346);
 
   // The name stands in the quotes that the statement gave it.
   constexpr std::string_view table = "table \"";

@@ -172,6 +172,9 @@ TEST_F(Filtering, is_refused_when_it_is_no_condition_on_the_table) {
   const auto fault = [&](const char* filter) { return fault_of([&] { narrowed(filter, ""); }); };
   EXPECT_EQ(fault("trips >"), 3075);
   EXPECT_EQ(fault("trips = 1; drop table pairs"), 3075);
+  std::string long_sum = "trips = 0";
+  for (int i = 0; i < 200; ++i) long_sum += " + 1";
+  EXPECT_EQ(fault(long_sum.c_str()), 3360);
   EXPECT_EQ(fault("trips = 1, origin = 2"), 3075);
   EXPECT_EQ(fault("trips in (select sigma from Commuter)"), 3075);
   EXPECT_EQ(fault(" "), 3075);
