@@ -121,6 +121,17 @@ TEST_F(DirectoryChooser, saves_into_the_highlighted_directory_by_the_shortcut_to
             in_app("results"));
 }
 
+TEST_F(DirectoryChooser, saves_nowhere_by_the_shortcut_when_the_highlighted_directory_is_gone) {
+  EXPECT_EQ(saved_into([this] {
+              highlight("results");
+              std::filesystem::remove(app.file("results"));
+              analyst.will_press("OK");
+              qobject_cast<QAbstractButton*>(analyst.find("cmdExit"))->click();
+            }),
+            "no save");
+  EXPECT_EQ(last_box(), "Run-time error '76':\n\nPath not found: " + in_app("results"));
+}
+
 TEST_F(DirectoryChooser, saves_into_the_opened_directory) {
   EXPECT_EQ(saved_into([this] {
               highlight("results");

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "runtime/forms/desktop.h"
 #include "runtime/forms/twips.h"
 
 namespace runtime::forms {
@@ -37,9 +38,11 @@ QWidget* CommandButton::make_widget(QWidget* parent) {
   auto* button = new PushButton(parent);
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, button, [this, button] {
-    // A shortcut clicks without taking the focus, which the control that had it must notice.
+    // A shortcut clicks without taking the focus, which the control that had it must notice. When that ends
+    // in a report, the button is not pressed, as with the mouse, whose button comes up over the report.
+    const int reports = desktop().reports();
     if (button->focusPolicy() != Qt::NoFocus) button->setFocus(Qt::OtherFocusReason);
-    fire_from_person(Event::Click);
+    if (desktop().reports() == reports) fire_from_person(Event::Click);
   });
   return button;
 }

@@ -73,6 +73,7 @@ void Desktop::end_of_handler() {
 }
 
 void Desktop::report(const Fault& fault) {
+  ++reports_;
   show_runtime_error(main_window, fault, program_title);
 }
 

@@ -76,11 +76,15 @@ class Desktop {
   /// True while a handler is under way.
   bool busy() const { return depth_ > 0; }
 
+  /// How many faults were reported so far.
+  int reports() const { return reports_; }
+
  private:
   void report(const Fault& fault);
   void end_of_handler();
 
   int depth_ = 0;
+  int reports_ = 0;
 };
 
 }  // namespace runtime::forms
