@@ -120,9 +120,9 @@ void Command1_Click(Program& program) {
 
 void Command3_Click(Program& program) {
   if (!prepare_grid(program, commuter_market)) return;
-  // A large font for the form itself would come first. Nothing on the form takes it on: what it does is to
-  // load the form, so that the caption below replaces the one of the load.
-  program.frmDataGrid.Load();
+  // Nothing on the form takes the font on: what this does is to load the form, so that the caption below
+  // replaces the one of the load.
+  program.frmDataGrid.set_font_size(24);
   program.frmDataGrid.set_caption(mode_word(program) == "employment"
                                       ? "Enter the number of persons who work in each zone by occupation"
                                       : "Enter the number of persons living in each zone by occupation");

@@ -253,6 +253,7 @@ TEST_F(OccupationChoice, shows_the_grid_of_the_zones_with_a_caption_of_its_own) 
   press(program.form2, go_ahead);
   EXPECT_TRUE(program.frmDataGrid.visible());
   EXPECT_EQ(program.frmDataGrid.caption(), "Enter the number of persons living in each zone by occupation");
+  EXPECT_EQ(program.frmDataGrid.font_size(), 24);
   EXPECT_EQ(on_top(program), "Enter the number of persons living in each zone by occupation");
   EXPECT_EQ(program.frmDataGrid->cmdClose.caption(), "&Save Population by Occupation and Continue");
   EXPECT_THAT(app.rows("select * from sosec"), ElementsAre("1|null", "2|null", "3|null"));

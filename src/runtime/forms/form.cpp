@@ -161,6 +161,11 @@ void FormBase::set_caption(const std::string& caption) {
   window_->setWindowTitle(qt(caption));
 }
 
+void FormBase::set_font_size(double points) {
+  reference();
+  font_size_ = points;
+}
+
 void FormBase::Unload() {
   if (!loaded()) return;
   if (design_.stores_at_unload) store();
@@ -176,6 +181,7 @@ void FormBase::remove() {
   visible_ = false;
   window_state_ = WindowState::normal;
   state_before_minimized_ = WindowState::normal;
+  font_size_ = 0;
   // A form is unloaded inside its own button's handler every day: the widgets must live until that handler
   // is back in the event loop, but nobody may find them meanwhile.
   // Hiding moves the focus, and a control that notices must find neither its handlers nor a freed set.

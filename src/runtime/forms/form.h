@@ -61,6 +61,9 @@ class FormBase {
   /// The width of its window, frame included, in twips.
   int width();
   void set_caption(const std::string& caption);
+  /// The font of the form itself, in points; 0 as designed. Its controls have fonts of their own.
+  double font_size() const { return font_size_; }
+  void set_font_size(double points);
 
   /// The handlers of the form's controls, tied at each load.
   void set_events(std::vector<EventRow> rows) { events_ = std::move(rows); }
@@ -90,6 +93,7 @@ class FormBase {
   std::unique_ptr<ControlSet> controls_;
   FormWindow* window_ = nullptr;
   std::string caption_;
+  double font_size_ = 0;
   WindowState window_state_ = WindowState::normal;
   WindowState state_before_minimized_ = WindowState::normal;
   bool visible_ = false;
