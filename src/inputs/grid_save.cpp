@@ -78,6 +78,20 @@ void export_file(Program& program, Database& db, const std::string& name, Column
   database::export_column(program.desktop.files, db, program.desktop.app_path, column);
 }
 
+/// Exports with the link made anew for each file. When one cannot be written the link is there again, so that
+/// the analyst can save into another directory.
+template <typename Exports>
+void with_links(Program& program, Database& db, Exports&& exports) {
+  db.Execute("Drop TABLE csvtable");
+  try {
+    exports();
+  } catch (const runtime::Fault&) {
+    runtime::ignoring_faults(
+        [&] { db.AppendTableDef(database::csvtable_definition(db, program.desktop.app_path)); });
+    throw;
+  }
+}
+
 void leave(Program& program) {
   program.desktop.set_pointer(Pointer::normal);
   program.frmDataGrid.Unload();
@@ -131,13 +145,14 @@ void savcommercial(Program& program) {
   renumber_origins(program);
   program.frmDataGrid.SaveClone.MoveFirst();
   industries.MoveFirst();
-  db.Execute("Drop TABLE csvtable");
-  for (const std::string& insert : inserts) {
-    const std::string name = description_of(industries);
-    export_file(program, db, "trips_" + name + ".txt",
-                {database::write_pairs_template, {database::column_to_write(3, name)}, insert, {}});
-    industries.MoveNext();
-  }
+  with_links(program, db, [&] {
+    for (const std::string& insert : inserts) {
+      const std::string name = description_of(industries);
+      export_file(program, db, "trips_" + name + ".txt",
+                  {database::write_pairs_template, {database::column_to_write(3, name)}, insert, {}});
+      industries.MoveNext();
+    }
+  });
   leave(program);
   program.frmDataGrid.SaveClone.Close();
 }
@@ -149,16 +164,17 @@ void savcommuter(Program& program) {
   const auto inserts = prepared(occupations, database::occupation_list.size(), insert_residents_and_workers);
   program.desktop.set_pointer(Pointer::hourglass);
   occupations.MoveFirst();
-  db.Execute("Drop TABLE csvtable");
-  for (const std::string& insert : inserts) {
-    const std::string name = description_of(occupations);
-    export_file(program, db, "commute _" + name + ".txt",
-                {database::write_zones_template,
-                 {database::column_to_write(2, name), database::workers_column_to_write(3, name)},
-                 insert,
-                 {}});
-    occupations.MoveNext();
-  }
+  with_links(program, db, [&] {
+    for (const std::string& insert : inserts) {
+      const std::string name = description_of(occupations);
+      export_file(program, db, "commute _" + name + ".txt",
+                  {database::write_zones_template,
+                   {database::column_to_write(2, name), database::workers_column_to_write(3, name)},
+                   insert,
+                   {}});
+      occupations.MoveNext();
+    }
+  });
   occupations.Close();
   db.Close();
   leave(program);

@@ -287,13 +287,31 @@ TEST_F(GridSave, into_a_vanished_directory_ends_in_a_report_and_can_be_done_agai
   EXPECT_EQ(app.bytes("study/distance.txt"), "1 1 \r\n");
 }
 
-TEST_F(GridSave, of_trips_into_a_vanished_directory_ends_in_a_report) {
-  open_trips(1, {1});
+TEST_F(GridSave, of_trips_into_a_vanished_directory_ends_in_a_report_and_can_be_done_again_elsewhere) {
+  open_trips(1, {1, 3});
   press_on_grid("cmdClose");
   save_into_spoilt([](const auto& directory) { std::filesystem::remove(directory); });
   EXPECT_THAT(last_box(), StartsWith("Run-time error '76':"));
   EXPECT_EQ(hourglass(), "hourglass");
-  as_handler([this] { program.desktop.set_pointer(runtime::forms::Desktop::Pointer::normal); });
+  save_into("study");
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("trips_Mining.txt", "         1         1          \r\n"),
+                          Pair("trips_Service.txt", "         1         1          \r\n")));
+  EXPECT_EQ(hourglass(), "normal");
+}
+
+TEST_F(GridSave, of_commuters_that_lacks_its_template_can_be_done_again_when_it_is_back) {
+  open_employment(1, {7});
+  press_on_grid("cmdClose");
+  std::filesystem::rename(app.file("schema4.inp"), app.file("away.inp"));
+  analyst.forget_boxes();
+  analyst.will_press("OK");
+  save_into("study");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '53':"));
+  std::filesystem::rename(app.file("away.inp"), app.file("schema4.inp"));
+  save_into("study");
+  EXPECT_THAT(files_in("study"),
+              ElementsAre(Pair("commute _Sales.txt", "         1                    \r\n")));
 }
 
 TEST_F(GridSave, over_a_directory_of_a_file_s_name_leaves_what_was_written_by_then) {
