@@ -62,6 +62,7 @@ class GridPage : public ProgramTest {
 
   /// Clicks a button, of which forms that stand one upon the other may have one each.
   void press(const runtime::forms::FormBase& form, const std::string& control) {
+    ASSERT_TRUE(form.loaded()) << form.name();
     auto* widget = form.surface()->findChild<QWidget*>(QString::fromStdString(control));
     ASSERT_NE(widget, nullptr) << control;
     ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << control;

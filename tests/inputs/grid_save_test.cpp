@@ -204,10 +204,13 @@ TEST_F(GridSave, of_commuters_with_no_occupation_chosen_any_more_faults_before_i
 }
 
 TEST_F(GridSave, of_commuters_has_places_for_thirteen_occupations) {
-  open_employment(1, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  open_employment(1, {4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
   press_on_grid("cmdClose");
-  app.sql("INSERT INTO Occupations SELECT * FROM Occupations WHERE occupation_number = 1");
+  app.sql("INSERT INTO Occupations SELECT * FROM Occupations WHERE occupation_number <= 2");
   save_and_expect("9");
+  app.sql("DELETE FROM Occupations WHERE rowid = (SELECT max(rowid) FROM Occupations)");
+  save_into("study");
+  EXPECT_EQ(files_in("study").size(), 12U);
 }
 
 TEST_F(GridSave, of_times_faults_on_an_empty_table_and_leaves_the_files_of_an_earlier_one) {
