@@ -1,10 +1,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QTest>
 
+#include "directory_list.h"
 #include "program_test.h"
 
 namespace {
@@ -24,17 +24,7 @@ class DirectoryChooser : public testing_aids::ProgramTest {
   std::string path() { return program.frmdirget->dirList.path(); }
   std::string in_app(const std::string& name) { return app.file(name).string(); }
 
-  void highlight(const QString& name) {
-    for (int i = 0; i < directories().count(); ++i) {
-      QListWidgetItem* item = directories().item(i);
-      if (item->text().trimmed() != name) continue;
-      directories().scrollToItem(item);
-      QTest::mouseClick(directories().viewport(), Qt::LeftButton, {},
-                        directories().visualItemRect(item).center());
-      return;
-    }
-    ADD_FAILURE() << "no directory " << name.toStdString();
-  }
+  void highlight(const QString& name) { testing_aids::highlight(directories(), name); }
   /// Puts a volume on the list and chooses it.
   void choose_drive(const std::string& root) {
     drives().addItem(QString::fromStdString(root));

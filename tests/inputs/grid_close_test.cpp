@@ -38,6 +38,23 @@ TEST_F(GridClose, stores_the_edit_under_way) {
   EXPECT_THAT(sosec("WHERE distance NOTNULL"), ElementsAre("1|2|7|null|null"));
 }
 
+TEST_F(GridClose, keeps_the_grid_and_the_edit_of_a_text_that_its_column_cannot_take) {
+  open_times(2);
+  type_into_cell(1, 2, "much");
+  analyst.will_press("OK");
+  press_on_grid("cmdClose");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3421':"));
+  EXPECT_EQ(loaded_forms(), "Form2 Frmdirget* frmDataGrid*");
+  auto& grid = program.frmDataGrid->grdDataGrid;
+  EXPECT_TRUE(grid.edit_active());
+  EXPECT_EQ(std::get<std::string>(grid.column_value(2)), "much");
+  EXPECT_FALSE(program.frmDataGrid.SaveClone.is_set());
+  press_key(grid, Qt::Key_Escape);
+  press_on_grid("cmdClose");
+  EXPECT_EQ(loaded_forms(), "Form2- Frmdirget*");
+  EXPECT_THAT(sosec("WHERE distance NOTNULL"), IsEmpty());
+}
+
 TEST_F(GridClose, leaves_empty_distances_and_times_empty) {
   open_times(2);
   press_on_grid("cmdClose");
@@ -52,6 +69,17 @@ TEST_F(GridClose, issues_the_statements_for_empty_distances_all_the_same) {
   press_on_grid("cmdClose");
   EXPECT_THAT(last_box(), StartsWith("Run-time error '3061':"));
   EXPECT_TRUE(program.frmDataGrid.loaded());
+}
+
+TEST_F(GridClose, issues_a_statement_for_each_of_the_three_value_columns) {
+  for (const std::string column : {"distance", "Base_Travel_Times", "Improvement_Travel_Times"}) {
+    open_times(1);
+    app.sql("ALTER TABLE sosec RENAME COLUMN " + column + " TO gone");
+    press_and_expect("cmdClose",
+                     "Run-time error '3061':\n\nToo few parameters: '" + column + "' is not known");
+    EXPECT_TRUE(program.frmDataGrid.visible());
+    press_on_grid("Cmdquit");
+  }
 }
 
 TEST_F(GridClose, of_a_planned_mining_file_asks_for_a_column_of_each_chosen_industry) {

@@ -1,12 +1,16 @@
 // Filter, sort, requery and quit.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QTimer>
 
 #include "grid_page.h"
 #include "inputs/frmdatagrid.h"
+#include "inputs/launchers.h"
+#include "pointer_watch.h"
 
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
@@ -29,9 +33,10 @@ class GridCommands : public testing_aids::GridPage {
     return rows;
   }
 
+  /// `text`: what is entered before, when the command asks for it.
   void expect_told(const std::string& button, const std::string& text, const std::string& told) {
     analyst.forget_boxes();
-    analyst.will_enter(text);
+    if (!text.empty()) analyst.will_enter(text);
     analyst.will_press("OK");
     press_on_grid(button);
     EXPECT_THAT(last_box(), StartsWith(told));
@@ -109,6 +114,17 @@ TEST_F(GridCommands, filter_and_sort_tell_of_a_bad_answer_and_leave_the_grid_as_
   EXPECT_THAT(shown(), ElementsAre("1,1", "2,1", "1,2", "2,2"));
 }
 
+TEST_F(GridCommands, filter_and_sort_show_the_hourglass_while_they_work_and_not_while_they_ask) {
+  open_times(2);
+  analyst.when_box_shows = [](const analyst::Box&) { EXPECT_EQ(testing_aids::hourglass(), "normal"); };
+  for (const auto& [button, text] : {std::pair{"cmdFilter", "Origin = 1"}, {"cmdSort", "Destination"}}) {
+    const testing_aids::PointerWatch watch;
+    enter(button, text);
+    EXPECT_THAT(watch.seen(), Contains("hourglass")) << button;
+    EXPECT_EQ(testing_aids::hourglass(), "normal") << button;
+  }
+}
+
 TEST_F(GridCommands, filter_reads_no_other_table) {
   open_times(1);
   analyst.will_enter("Origin in (select numzones from zones)");
@@ -161,6 +177,30 @@ TEST_F(GridCommands, an_edit_under_way_outlives_a_filter_a_sort_and_a_refresh) {
   EXPECT_THAT(sosec("WHERE Destination = 2 AND Origin = 1"), ElementsAre("1|2|4|5|6"));
 }
 
+TEST_F(GridCommands, tell_of_a_text_that_its_column_cannot_take_and_leave_it_in_its_cell) {
+  open_times(2);
+  enter("cmdFilter", "Origin = 2");
+  type_into_cell(1, 2, "much");
+  expect_told("cmdFilter", "Destination = 1", "Error:3421 ");
+  expect_told("cmdSort", "Destination Desc", "Error:3421 ");
+  expect_told("cmdRefresh", "", "Error:3421 ");
+  EXPECT_THAT(shown(), ElementsAre("2,1", "2,2"));
+  auto& grid = program.frmDataGrid->grdDataGrid;
+  EXPECT_TRUE(grid.edit_active());
+  EXPECT_EQ(std::get<std::string>(grid.column_value(2)), "much");
+  EXPECT_EQ(grid.current_row(), 1);
+  EXPECT_THAT(sosec("WHERE distance NOTNULL"), IsEmpty());
+}
+
+TEST_F(GridCommands, go_on_when_a_text_that_its_column_cannot_take_is_given_up) {
+  open_times(2);
+  type_into_cell(1, 2, "much");
+  expect_told("cmdFilter", "Destination = 1", "Error:3421 ");
+  press_key(program.frmDataGrid->grdDataGrid, Qt::Key_Escape);
+  enter("cmdSort", "Origin Desc, Destination");
+  EXPECT_THAT(shown(), ElementsAre("2,1", "2,2", "1,1", "1,2"));
+}
+
 TEST_F(GridCommands, the_deletion_of_a_row_is_asked_for_and_only_a_yes_lets_it_pass) {
   analyst.will_press("No");
   as_handler([this] { EXPECT_TRUE(inputs::frmdatagrid::grdDataGrid_BeforeDelete(program)); });
@@ -174,8 +214,13 @@ TEST_F(GridCommands, the_deletion_of_a_row_is_asked_for_and_only_a_yes_lets_it_p
 TEST_F(GridCommands, the_last_mouse_button_on_the_grid_is_kept) {
   open_times(1);
   inputs::frmdatagrid::DataLu_Validate(program);
-  as_handler([this] { inputs::frmdatagrid::grdDataGrid_MouseUp(program, 2); });
-  EXPECT_EQ(program.frmDataGrid.LastMouseButton, 2);
+  auto* view = qobject_cast<QAbstractItemView*>(program.frmDataGrid->grdDataGrid.widget());
+  ASSERT_NE(view, nullptr);
+  for (const auto& [button, number] :
+       {std::pair{Qt::RightButton, 2}, {Qt::LeftButton, 1}, {Qt::MiddleButton, 4}}) {
+    QTest::mouseClick(view->viewport(), button, {}, view->visualRect(view->model()->index(0, 2)).center());
+    EXPECT_EQ(program.frmDataGrid.LastMouseButton, number);
+  }
 }
 
 TEST_F(GridCommands, quit_forgets_the_picks_and_unloads_every_work_form) {
@@ -192,12 +237,10 @@ TEST_F(GridCommands, quit_forgets_the_picks_and_unloads_every_work_form) {
 }
 
 TEST_F(GridCommands, quit_unloads_the_grid_first_and_the_parameters_last) {
-  open_times(1);
-  as_handler([this] {
-    program.form1.hide();
-    program.form3.hide();
-    program.frmdirget.hide();
-  });
+  set_zones(1);
+  as_handler([this] { program.form3.hide(); });  // its load unloads the others
+  analyst.choose("Times");
+  as_handler([this] { program.form1.hide(); });
   std::vector<std::string> unloaded;
   for (const auto* form : program.desktop.loaded_forms) {
     QObject::connect(form->surface(), &QObject::destroyed,
@@ -215,6 +258,36 @@ TEST_F(GridCommands, quit_drops_what_is_being_typed_and_leaves_the_table) {
   press_on_grid("Cmdquit");
   EXPECT_THAT(sosec(),
               ElementsAre("1|1|3|null|null", "1|2|3|null|null", "2|1|3|null|null", "2|2|3|null|null"));
+}
+
+TEST_F(GridCommands, quit_stores_what_is_being_typed_into_the_parameters) {
+  open_times(1);
+  analyst.choose("commute_param_sw");
+  type_into_cell_of(program.form1->DBGrid4, 7, 2, "99.5");
+  press_on_grid("Cmdquit");
+  EXPECT_THAT(app.rows("SELECT wage FROM commuter WHERE \"index\" = 7"), ElementsAre("99.5"));
+  EXPECT_EQ(loaded_forms(), "");
+}
+
+TEST_F(GridCommands, quit_keeps_the_parameters_open_when_a_text_cannot_be_stored) {
+  open_times(1);
+  analyst.choose("commute_param_sw");
+  type_into_cell_of(program.form1->DBGrid4, 7, 2, "much");
+  analyst.will_press("OK");
+  press_on_grid("Cmdquit");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3421':"));
+  EXPECT_EQ(loaded_forms(), "Form1*");
+}
+
+TEST_F(GridCommands, quit_stores_the_path_that_was_picked) {
+  set_zones(1);
+  analyst.choose("spec_timdist");
+  pick("Command4(5)", "sample/imp_time.txt");
+  as_handler([this] { inputs::mdiform1::Times_Click(program); });
+  press_on_grid("Cmdquit");
+  EXPECT_THAT(app.rows("SELECT distance FROM timdist"),
+              ElementsAre(app.file("sample/imp_time.txt").string()));
+  EXPECT_EQ(loaded_forms(), "");
 }
 
 TEST_F(GridCommands, quit_in_the_employment_pass_lets_the_next_entry_begin_with_employment) {

@@ -157,6 +157,14 @@ TEST_F(GridLoad, with_an_unknown_mode_word_stops_before_the_table_is_made) {
   EXPECT_THAT(app.rows("SELECT name FROM sqlite_master WHERE name = 'sosec'"), IsEmpty());
 }
 
+TEST_F(GridLoad, with_an_unknown_mode_word_has_linked_the_skeleton_by_then) {
+  open_times(1);
+  press_on_grid("Cmdquit");
+  analyst.will_press("OK");
+  show_grid_with("freight");
+  EXPECT_THAT(app.rows("SELECT name, source FROM table_links"), ElementsAre("csvtable|trips.csv"));
+}
+
 TEST_F(GridLoad, after_a_fault_can_be_tried_again) {
   open_times(1);
   press_on_grid("Cmdquit");

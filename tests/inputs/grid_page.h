@@ -62,6 +62,7 @@ class GridPage : public ProgramTest {
 
   /// Clicks a button, of which forms that stand one upon the other may have one each.
   void press(const runtime::forms::FormBase& form, const std::string& control) {
+    ASSERT_TRUE(form.loaded()) << form.name();
     auto* widget = form.surface()->findChild<QWidget*>(QString::fromStdString(control));
     ASSERT_NE(widget, nullptr) << control;
     ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << control;
@@ -106,17 +107,19 @@ class GridPage : public ProgramTest {
 
   /// Types into a cell, whose edit stays open.
   void type_into_cell(int row, int column, const std::string& text) {
-    auto& grid = program.frmDataGrid->grdDataGrid;
+    type_into_cell_of(program.frmDataGrid->grdDataGrid, row, column, text);
+  }
+  void type_into_cell_of(runtime::forms::DBGrid& grid, int row, int column, const std::string& text) {
     as_handler([&] {
       grid.set_current_row(row);
       grid.set_current_column(column);
     });
-    QApplication::setActiveWindow(&program.mdiform1.window());
-    grid.widget()->setFocus();
-    for (const char next : text) {  // the first key opens the edit, which gets the others
-      QWidget* focused = QApplication::focusWidget();
-      QTest::keyClick(focused == nullptr ? grid.widget() : focused, next);
-    }
+    focus(grid);
+    for (const char next : text) QTest::keyClick(focused_in(grid), next);  // the first one opens the edit
+  }
+  void press_key(const runtime::forms::DBGrid& grid, Qt::Key key) {
+    focus(grid);
+    QTest::keyClick(focused_in(grid), key);
   }
 
   /// In the chooser: the directory is chosen, and the save button pressed.
@@ -167,6 +170,18 @@ class GridPage : public ProgramTest {
     std::map<std::string, std::string> files;
     for (const auto& name : app.names_in(directory)) files[name] = app.bytes(directory + "/" + name);
     return files;
+  }
+
+ private:
+  /// Nobody hands the focus over without a window manager.
+  void focus(const runtime::forms::DBGrid& grid) {
+    QApplication::setActiveWindow(&program.mdiform1.window());
+    grid.widget()->setFocus();
+  }
+  /// The grid, or its cell that is being edited.
+  static QWidget* focused_in(const runtime::forms::DBGrid& grid) {
+    QWidget* focused = QApplication::focusWidget();
+    return focused == nullptr ? grid.widget() : focused;
   }
 
  protected:

@@ -253,6 +253,32 @@ TEST_F(GridRanges, keep_the_cells_filled_before_the_one_that_faults_in_the_order
   EXPECT_THAT(sosec("WHERE distance NOTNULL"), IsEmpty());
 }
 
+TEST_F(GridRanges, keep_the_first_column_filled_whole_when_the_second_faults) {
+  open_times(2);
+  fill(3, {"1", "2", "1", "2", "1"});
+  click_heading(3);
+  click_heading(2);
+  // The fill of the first column leaves nothing for the second one to divide by.
+  as_handler([this] { program.frmDataGrid->txt_zonedit(4).set_text("1/Base_Travel_Times-1"); });
+  analyst.will_press("OK");
+  press_on_grid("cmd_zonedit(0)");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '11':"));
+  EXPECT_THAT(sosec(),
+              ElementsAre("1|1|null|0|null", "1|2|null|0|null", "2|1|null|0|null", "2|2|null|0|null"));
+  EXPECT_THAT(picks(), ElementsAre("Base_Travel_Times", "distance"));
+}
+
+TEST_F(GridRanges, find_no_project_where_the_current_directory_holds_none) {
+  open_times(2);
+  as_handler([this] { program.desktop.files.ChDir("sample"); });
+  analyst.will_press("OK");
+  fill(2, {"1", "2", "1", "2", "5"});
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3024':"));
+  EXPECT_EQ(app.bytes("sample/zelmor.mdb"), "(none)");
+  EXPECT_THAT(sosec("WHERE distance NOTNULL"), IsEmpty());
+  EXPECT_THAT(picks(), ElementsAre("distance"));
+}
+
 TEST_F(GridRanges, that_were_picked_in_the_population_pass_meet_empty_names_in_the_next) {
   open_population(2, {7, 11});
   click_heading(1);

@@ -25,6 +25,15 @@ class LauncherPairs : public testing_aids::InputsPage {
     as_handler([&] { launches.at(name)(program); });
   }
 
+  /// The name of a group of boxes that are shown, the number of these before it when some are not, "" when
+  /// none is.
+  std::string shown_boxes(int first, int last, const std::string& group) {
+    int shown = 0;
+    for (int i = first; i <= last; ++i) shown += program.form2->Chcktrp(i).visible() ? 1 : 0;
+    if (shown == 0) return "";
+    return shown == last - first + 1 ? group : " " + std::to_string(shown) + group;
+  }
+
   /// What Form2 shows, were it on top: the captions of frame and label, the number boxes, whether the frame
   /// of the markets is there, which ticks, which buttons; and what it keeps.
   std::string look() {
@@ -35,9 +44,8 @@ class LauncherPairs : public testing_aids::InputsPage {
     if (form2->MaskEdBox2.visible()) text += " districts";
     const bool markets = form2->Frame2.visible();
     if (markets) text += " markets";
-    if (markets && form2->Chcktrp(0).visible() && form2->Chcktrp(3).visible()) text += " industries";
-    if (form2->Chcktrp(4).visible() && form2->Chcktrp(15).visible()) text += " occupations";
-    text += " / ";
+    text += shown_boxes(0, 3, " industries") + shown_boxes(4, 15, " occupations") +
+            shown_boxes(16, 16, " armed forces") + " / ";
     const auto in_markets = [&](const runtime::forms::Control& button, char digit) {
       if (markets && button.visible()) text += digit;
     };

@@ -73,9 +73,12 @@ TEST_F(Launchers, of_the_occupations_put_the_go_ahead_where_that_of_the_industri
 }
 
 TEST_F(Launchers, of_the_markets_take_the_number_of_zones_out_of_the_tab_order) {
-  analyst.choose("CommerTdata");
-  EXPECT_EQ(analyst.find("MaskEdBox1")->focusPolicy() & Qt::TabFocus, 0);
-  EXPECT_EQ(analyst.text_of("MaskEdBox1"), "24__");
+  for (const char* item : {"CommerTdata", "Comm_pop"}) {
+    analyst.choose(item);
+    EXPECT_EQ(analyst.find("MaskEdBox1")->focusPolicy() & Qt::TabFocus, 0) << item;
+    EXPECT_EQ(analyst.text_of("MaskEdBox1"), "24__") << item;
+    press(program.form2, "Command2");
+  }
 }
 
 TEST_F(Launchers, of_a_number_leave_the_mode_word_of_an_earlier_command) {

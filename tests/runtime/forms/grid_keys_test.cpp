@@ -18,14 +18,6 @@ class GridKeys : public testing_aids::GridTest {
  protected:
   using Place = std::pair<std::int64_t, int>;
   Place place() { return {grid().current_row(), grid().current_column()}; }
-  /// As many pairs as a study of 100 zones has.
-  void fill() {
-    app.sql(
-        "delete from pairs;"
-        "with recursive n(i) as (select 0 union all select i + 1 from n where i < 9999)"
-        " insert into pairs select i / 100 + 1, i % 100 + 1, i, null, null from n");
-    as_handler([&] { form->Data1(0).Refresh(); });
-  }
 };
 
 TEST_F(GridKeys, arrows_move_by_a_cell_and_stop_at_the_edges) {
@@ -44,6 +36,8 @@ TEST_F(GridKeys, tab_and_enter_move_on_and_into_the_next_row) {
   EXPECT_EQ(place(), Place(1, 0));
   press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(place(), Place(0, 4));
+  press(Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(place(), Place(0, 3));
 }
 
 TEST_F(GridKeys, tab_in_the_last_cell_leaves_the_grid) {
@@ -63,6 +57,14 @@ TEST_F(GridKeys, home_and_end_reach_the_ends_of_the_row_and_with_control_of_the_
   EXPECT_EQ(place(), Place(3, 4));
   press(Qt::Key_Home, Qt::ControlModifier);
   EXPECT_EQ(place(), Place(0, 0));
+}
+
+TEST_F(GridKeys, arrows_with_control_reach_the_first_and_the_last_row_in_their_column) {
+  go_to(1, 2);
+  press(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(place(), Place(3, 2));
+  press(Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(place(), Place(0, 2));
 }
 
 TEST_F(GridKeys, page_keys_move_by_a_screen) {

@@ -11,10 +11,6 @@ using ::testing::IsEmpty;
 class GridPaste : public testing_aids::GridTest {
  protected:
   void put(const char* text) { QApplication::clipboard()->setText(QString::fromUtf8(text)); }
-  std::string copied() {
-    press(Qt::Key_C, Qt::ControlModifier);
-    return QApplication::clipboard()->text().toStdString();
-  }
   void paste() { press(Qt::Key_V, Qt::ControlModifier); }
   std::vector<std::string> numbers() { return app.rows("select trips, cost from pairs"); }
   const std::vector<std::string> untouched{"10.0|14.51", "null|2.0", "0.5|3.0", "1.0e+20|4.0"};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -71,12 +72,26 @@ class GridTest : public SmallFormTest {
       grid().set_current_column(column);
     });
   }
+  /// As many pairs as a study of 100 zones has.
+  void fill() {
+    app.sql(
+        "delete from pairs;"
+        "with recursive n(i) as (select 0 union all select i + 1 from n where i < 9999)"
+        " insert into pairs select i / 100 + 1, i % 100 + 1, i, null, null from n");
+    as_handler([&] { form->Data1(0).Refresh(); });
+  }
   /// Clicks into a cell, by its row on the screen.
   void click(int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     const QRect place = view().visualRect(view().model()->index(row, column));
     QWidget* target = view().viewport()->childAt(place.center());
     if (target == nullptr) target = view().viewport();
     QTest::mouseClick(target, Qt::LeftButton, modifiers, target->mapFrom(view().viewport(), place.center()));
+  }
+
+  /// The selected cells, as another program gets them.
+  std::string copied() {
+    press(Qt::Key_C, Qt::ControlModifier);
+    return QApplication::clipboard()->text().toStdString();
   }
 
   /// What is on the screen: the headings, then the rows, the current cell in brackets, with "*" behind a text
