@@ -36,7 +36,8 @@ TEST(ResultCodes, of_a_statement_carry_the_name_at_fault) {
             "3191 Field 'Mining' is defined more than once");
   EXPECT_EQ(told(SQLITE_ERROR, "table sosec has 6 columns but 3 values were supplied"),
             "3346 The number of values does not match the number of fields");
-  EXPECT_EQ(told(SQLITE_ERROR, "too many arguments on function q_calc"), "3360 The expression is too complex");
+  EXPECT_EQ(told(SQLITE_ERROR, "too many arguments on function q_calc"),
+            "3360 The expression is too complex");
   EXPECT_EQ(told(SQLITE_ERROR, "something else"), "3075 Syntax error in expression: something else");
 }
 
