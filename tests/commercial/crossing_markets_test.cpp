@@ -126,10 +126,11 @@ TEST_F(CrossingMarkets, the_distance_pick_of_the_truck_page_takes_the_place_of_a
   open_commuter_page();
   pick("Command12", "results/sales.txt");
   press_and_answer({"No"});
-  EXPECT_EQ(shown().front(),
-            "The Number of Zones= 24\nThe Number of Districts= 0\n"
-            "The occupations are Precision_Production\n Transportation\n Executive,Admin,Managerial\n"
-            " Technician\n Protective Services\nDo you wish to continue? [Yes, No]");
+  EXPECT_THAT(
+      shown(),
+      ElementsAre("The Number of Zones= 24\nThe Number of Districts= 0\n"
+                  "The occupations are Precision_Production\n Transportation\n Executive,Admin,Managerial\n"
+                  " Technician\n Protective Services\nDo you wish to continue? [Yes, No]"));
   EXPECT_EQ(model_files().at("popemp5.txt"), "= sample/imp_time.txt");
   EXPECT_FALSE(model_files().contains("popemp4.txt"));
 }
