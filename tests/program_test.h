@@ -24,11 +24,16 @@ class ProgramTest : public ::testing::Test {
   /// Runs what a handler would, through the edge at which every handler starts and ends.
   void as_handler(const std::function<void()>& code) { program.desktop.run_event(code); }
 
-  /// From the start of the program to the commuter page: the stored time and distance files are saved.
-  void open_commuter_page() {
+  /// The first step of the workflow: the stored time and distance files are saved.
+  void save_time_files() {
     analyst.choose("spec_timdist");
     analyst.will_press("Yes");
     analyst.click("Command8");
+  }
+
+  /// From the start of the program to the commuter page.
+  void open_commuter_page() {
+    save_time_files();
     analyst.choose("spec_comm");
     analyst.forget_boxes();
   }

@@ -23,11 +23,13 @@ constexpr int cost = 2;
 
 void copy_pick(Program& program, const std::string& truck, int i) {
   auto& files = program.desktop.files;
-  const std::string& path = program.form3.PickPath(i);
-  const std::string& code = program.form3.PickCode(i);
-  if (path.empty()) return;
-  ignoring_faults([&] { files.FileCopy(path, truck + "\\trktrp" + code + ".txt"); });
-  ignoring_faults([&] { print_line(files.out(outpar), {code}); });
+  auto& form3 = program.form3;
+  ignoring_faults([&] {
+    if (form3.PickPath(i).empty()) return;
+    ignoring_faults(
+        [&] { files.FileCopy(form3.PickPath(i), truck + "\\trktrp" + form3.PickCode(i) + ".txt"); });
+    ignoring_faults([&] { print_line(files.out(outpar), {form3.PickCode(i)}); });
+  });
 }
 
 /// All fields but the first, each followed by a comma.
@@ -39,10 +41,10 @@ std::string comma_line(const Recordset& row) {
 
 void write_cost(Program& program, Database& db, Recordset& row, const std::string& truck, int i) {
   auto& files = program.desktop.files;
-  const std::string& code = program.form3.PickCode(i);
+  auto& code = program.form3.PickCode;
   ignoring_faults(
-      [&] { row = db.OpenRecordset("select * from Commercial where industry_number= " + code + " "); });
-  ignoring_faults([&] { files.open_for_output(cost, truck + "\\cost" + code + ".txt"); });
+      [&] { row = db.OpenRecordset("select * from Commercial where industry_number= " + code(i) + " "); });
+  ignoring_faults([&] { files.open_for_output(cost, truck + "\\cost" + code(i) + ".txt"); });
   std::string line;
   ignoring_faults([&] { line = comma_line(row); });
   ignoring_faults([&] { print_line(files.out(cost), {line}); });
@@ -50,8 +52,14 @@ void write_cost(Program& program, Database& db, Recordset& row, const std::strin
   ignoring_faults([&] { files.Close(cost); });
 }
 
-void copy_time_files(Program& program, Database& db, const std::string& truck) {
+/// The name of the copy of a time or distance file. Fault 9 behind the last place, as in the picks.
+const std::string& stem(int field) {
   static const std::array<std::string, 11> stems{"distance", "base_time", "imp_time"};
+  if (field >= static_cast<int>(stems.size())) throw runtime::Fault(9);
+  return stems[static_cast<std::size_t>(field)];
+}
+
+void copy_time_files(Program& program, Database& db, const std::string& truck) {
   auto& files = program.desktop.files;
   ignoring_faults([&] {
     const auto paths = db.OpenRecordset("select * from timdist");
@@ -59,7 +67,7 @@ void copy_time_files(Program& program, Database& db, const std::string& truck) {
       ignoring_faults([&] {
         const std::string path = joined(paths.field(field));
         if (files.Dir(path).empty()) return;
-        files.FileCopy(path, truck + "\\trktrp\\" + stems.at(static_cast<std::size_t>(field)) + ".txt");
+        files.FileCopy(path, truck + "\\trktrp\\" + stem(field) + ".txt");
       });
     }
   });

@@ -1,33 +1,13 @@
-#include <QWidget>
-
+#include "page_drawing.h"
 #include "program_test.h"
 
 namespace {
-
-using runtime::forms::Kind;
-using ::testing::IsEmpty;
 
 constexpr const char* no_zones = "The number of zones for this analysis has not been specified!";
 
 class Layouts : public testing_aids::ProgramTest {
  protected:
-  /// Every control that can be seen, in the order of the design: name, caption, left, top, width, height in
-  /// twips of its container, and whether it is disabled. Frame1 counts its own corner.
-  std::string drawing() {
-    std::string lines;
-    for (const auto* control : program.form3->all()) {
-      if (!control->widget()->isVisible()) continue;
-      lines += control->full_name();
-      if (control->kind() != Kind::TextBox && control->kind() != Kind::Line) {
-        lines += " \"" + control->caption() + '"';
-      }
-      for (const int number : {control->left(), control->top(), control->width(), control->height()}) {
-        lines += ' ' + std::to_string(number);
-      }
-      lines += control->is_enabled() ? "\n" : " disabled\n";
-    }
-    return lines;
-  }
+  std::string drawing() { return testing_aids::drawn_page(program); }
 };
 
 using TimeAndDistancePage = Layouts;
@@ -49,6 +29,11 @@ Command3 "Quit" 2320 880 1020 375
 )");
   EXPECT_EQ(program.form3.caption(), "Specify Time and Distance Files");
   EXPECT_TRUE(program.form3.visible());
+}
+
+TEST_F(TimeAndDistancePage, has_no_control_beneath_another) {
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(testing_aids::covered_controls(program), "");
 }
 
 TEST_F(TimeAndDistancePage, gives_the_second_save_the_place_of_the_run_button_and_leaves_it_hidden) {

@@ -73,6 +73,16 @@ TEST_F(TripPick, of_another_extension_is_refused_and_hides_its_box) {
   EXPECT_EQ(open_levels(), 1);
 }
 
+TEST_F(TripPick, cancelled_after_one_of_another_extension_is_a_cancel) {
+  pick_with_box("Command1(1)", "results/trips.dat");
+  EXPECT_EQ(cdbox1().flags, 1024);
+  analyst.forget_boxes();
+  cancel("Command1(2)");
+  EXPECT_THAT(messages(), IsEmpty());
+  EXPECT_EQ(cdbox1().flags, 8);
+  EXPECT_EQ(look(program.form3->Text1(2)), cancelled);
+}
+
 TEST_F(TripPick, of_a_long_extension_gets_the_check_of_the_name_as_well) {
   analyst.will_choose_file(path("results/trips.data"));
   analyst.will_press("OK");

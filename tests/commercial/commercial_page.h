@@ -18,9 +18,7 @@ class CommercialPage : public CommuterPage {
   void program_does(const std::string& steps) const { app.put_file("truck/stand_in.txt", steps); }
 
   void open_commercial_page() {
-    analyst.choose("spec_timdist");
-    analyst.will_press("Yes");
-    analyst.click("Command8");
+    save_time_files();
     analyst.choose("Spec_commercial");
     analyst.forget_boxes();
   }

@@ -1,9 +1,9 @@
 // What goes wrong in a conversion: a program that fails closes the page, and what no step expects is reported
 // and ends the program.
-#include <QApplication>
-#include <QTimer>
+#include <optional>
 
-#include "commercial_page.h"
+#include "conversion_page.h"
+#include "small_disk.h"
 
 namespace {
 
@@ -12,19 +12,8 @@ using ::testing::IsEmpty;
 
 namespace fs = std::filesystem;
 
-class ConversionFaults : public testing_aids::CommercialPage {
+class ConversionFaults : public testing_aids::ConversionPage {
  protected:
-  ConversionFaults() {
-    run_button = "Command13";
-    app.put_stand_in("truck/tontotruck.exe");
-    app.put_file("sample/tons.txt", "1 2 300\r\n");
-  }
-
-  void open_truck_page() {
-    analyst.choose("mnu_tonstotrucks");
-    pick("Command15", "sample/tons.txt");
-  }
-
   /// What the page is closed with when its program has been started.
   static constexpr const char* closed_in_truck = R"(forms:
 open files:
@@ -45,11 +34,7 @@ menus: Inputs Run spec_timdist
 
   /// A report of that number, behind which the program ends with 1; a new start finds the study as it was.
   void expect_end(const std::string& number) {
-    QTimer::singleShot(0, [this] { press_and_answer({"OK"}); });
-    EXPECT_EQ(QApplication::exec(), 1);
-    ASSERT_EQ(analyst.boxes().size(), 1U);
-    EXPECT_EQ(analyst.last_box().name, "RuntimeError");
-    EXPECT_THAT(last_box(), ::testing::StartsWith("Run-time error '" + number + "':"));
+    press_to_the_end(number);
     EXPECT_THAT(app.rows("PRAGMA integrity_check"), ElementsAre("ok"));
     EXPECT_THAT(app.rows("SELECT numzones, numdstrct FROM zones"), ElementsAre("24|4"));
     forms::Program again(app.path());
@@ -96,9 +81,11 @@ TEST_F(ConversionFaults, a_verdict_without_words) {
 }
 
 TEST_F(ConversionFaults, a_table_of_factors_without_a_row) {
+  app.put_file("truck/tontotruck.txt", "old");
   open_truck_page();
   app.sql("DELETE FROM tontotruck");
   expect_end("3021");
+  EXPECT_EQ(app.bytes("truck/tontotruck.txt"), "(none)") << "the old factors go first of all";
 }
 
 TEST_F(ConversionFaults, a_table_of_factors_that_is_gone) {
@@ -133,8 +120,7 @@ TEST_F(ConversionFaults, a_missing_model_directory) {
   expect_end("76");
 }
 
-TEST_F(ConversionFaults, a_factor_file_on_a_full_disk) {
-  app.put_file("truck/seen.txt", "");
+TEST_F(ConversionFaults, a_directory_in_the_place_of_the_factor_file) {
   open_truck_page();
   fs::create_directory(app.file("truck/tontotruck.txt"));
   expect_end("75");
@@ -162,5 +148,47 @@ menus: Inputs Run spec_timdist
   EXPECT_EQ(app.bytes("truck/Dist.txt"), "(none)");
   EXPECT_NE(app.bytes("truck/tontotruck.txt"), "(none)");
 }
+
+#ifndef _WIN32
+TEST_F(ConversionFaults, a_parameter_file_on_a_full_disk) {
+  open_truck_page();
+  fs::create_symlink("/dev/full", app.file("truck/ttc.txt"));
+  expect_end("61");
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "1 2 300\r\n");
+}
+
+// The conversion deletes what stands in the place of these files, or takes no device for one, so that a disk
+// without room is all that is left. Nothing was picked: no record is to be stored there as well.
+class ConversionWithoutRoom : public ConversionFaults {
+ protected:
+  void expect_end_on_disk_of(std::uintmax_t bytes, const std::string& file) {
+    app.sql("UPDATE Anfiles SET TonsFile = 'sample/tons.txt'");
+    analyst.choose("mnu_tonstotrucks");
+    std::optional<testing_aids::SmallDisk> disk(bytes);
+    analyst.when_box_shows = [&disk](const analyst::Box&) { disk.reset(); };
+    expect_end("57");
+    EXPECT_THAT(last_box(), ::testing::EndsWith(file));
+  }
+};
+
+TEST_F(ConversionWithoutRoom, for_the_factors) {
+  expect_end_on_disk_of(100, in_app("truck/tontotruck.txt"));
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), "(none)");
+}
+
+TEST_F(ConversionWithoutRoom, for_the_distances_leaves_no_cut_copy) {
+  expect_end_on_disk_of(1000, in_app("truck/Dist.txt"));
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "(none)");
+}
+
+TEST_F(ConversionWithoutRoom, for_the_tons_leaves_no_cut_copy) {
+  app.put_file("sample/tons.txt", std::string(20000, '1'));
+  expect_end_on_disk_of(10000, in_app("truck/commodity.txt"));
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), app.bytes("sample/distance.txt"));
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), "(none)");
+}
+#endif
 
 }  // namespace

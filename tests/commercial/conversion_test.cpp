@@ -1,28 +1,17 @@
 // The conversion of tons to trucks, with a stand-in in the place of its program.
-#include <QApplication>
-#include <QTimer>
-
-#include "commercial_page.h"
+#include "conversion_page.h"
 
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class Conversion : public testing_aids::CommercialPage {
+class Conversion : public testing_aids::ConversionPage {
  protected:
   Conversion() {
-    run_button = "Command13";
-    app.put_stand_in("truck/tontotruck.exe");
-    app.put_file("sample/tons.txt", "1 2 300\r\n");
     app.sql(
         "DROP TABLE tontotruck; CREATE TABLE tontotruck (a INTEGER, b REAL, c REAL) STRICT;"
         "INSERT INTO tontotruck VALUES (3, 12.5, 0.5), (4, 1, NULL)");
-  }
-
-  void open_truck_page() {
-    analyst.choose("mnu_tonstotrucks");
-    pick("Command15", "sample/tons.txt");
   }
 
   static constexpr const char* closed = R"(forms:
@@ -109,13 +98,24 @@ TEST_F(Conversion, removes_what_an_earlier_run_left_before_it_starts) {
   EXPECT_EQ(app.bytes("truck/err.txt"), "(none)");
 }
 
-TEST_F(Conversion, no_zones_ends_with_the_page_up) {
+TEST_F(Conversion, no_zones_ends_with_the_page_up_and_leaves_the_files_of_an_earlier_one) {
+  const std::map<std::string, std::string> old{
+      {"Dist.txt", "old"}, {"Err.txt", "1, old\r\n"}, {"district.txt", "old"}, {"tontotruck.txt", "old"}};
+  std::filesystem::remove(app.file("truck/stand_in.txt"));
+  for (const auto& [name, bytes] : old) app.put_file("truck/" + name, bytes);
   open_truck_page();
   by_code([this] { program.form2.unload_without_storing(); });
   app.sql("UPDATE zones SET numzones = 0");
   press_and_answer({"OK"});
   EXPECT_THAT(shown(), ElementsAre("The number of zones for this analysis has not been specified! [OK]"));
-  EXPECT_TRUE(program.form3.visible());
+  EXPECT_EQ(left(), R"(forms: Form3* Form2
+open files:
+new levels: 0
+directory: .
+picks:
+menus: spec_timdist
+)");
+  EXPECT_EQ(model_files(), old);
 }
 
 TEST_F(Conversion, a_missing_base_time_file_closes_the_page_without_a_word) {
@@ -125,6 +125,41 @@ TEST_F(Conversion, a_missing_base_time_file_closes_the_page_without_a_word) {
   EXPECT_THAT(shown(), IsEmpty());
   EXPECT_FALSE(program.form3.loaded());
   EXPECT_EQ(app.bytes("truck/ttc.txt"), "(none)");
+}
+
+// The step that was done before is undone: whatever the end, the workflow begins anew.
+TEST_F(Conversion, after_the_time_files_were_saved_goes_back_to_the_first_step) {
+  for (const bool silent : {false, true}) {
+    save_time_files();
+    ASSERT_TRUE(analyst.item_enabled("spec_CuCo"));
+    ASSERT_FALSE(analyst.item_enabled("spec_timdist"));
+    open_truck_page();
+    if (silent) std::filesystem::remove(app.file("sample/base_time.txt"));
+    press_and_answer(silent ? std::vector<std::string>{} : std::vector<std::string>{"OK"});
+    EXPECT_EQ(shown().empty(), silent);
+    EXPECT_THAT(left(), ::testing::EndsWith("menus: Inputs Run spec_timdist spec_comm\n"));
+    EXPECT_FALSE(analyst.item_enabled("spec_CuCo"));
+  }
+}
+
+TEST_F(Conversion, another_follows_from_the_directory_that_the_first_was_left_in) {
+  for (const char* tons : {"1 2 300\r\n", "1 2 400\r\n"}) {
+    app.put_file("sample/tons.txt", tons);
+    open_truck_page();
+    EXPECT_EQ(program.desktop.files.current_directory(), app.path());
+    press_and_answer({"OK"});
+    EXPECT_THAT(shown(), ElementsAre("Analysis Completed [OK]"));
+    EXPECT_EQ(program.desktop.files.current_directory(), in_app("truck"));
+    EXPECT_EQ(app.bytes("truck/commodity.txt"), tons);
+  }
+}
+
+TEST_F(Conversion, comes_to_the_application_directory_before_it_opens_the_database) {
+  open_truck_page();
+  std::filesystem::current_path(app.file("results"));
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("Analysis Completed [OK]"));
+  EXPECT_THAT(app.names_in("results"), IsEmpty());
 }
 
 TEST_F(Conversion, an_exit_code_is_told_with_the_words_turned_round) {
@@ -146,8 +181,7 @@ TEST_F(Conversion, a_refusal_is_told_directly_behind_the_words) {
 TEST_F(Conversion, a_fault_is_reported_and_ends_the_program_and_loses_nothing_that_was_stored) {
   open_truck_page();
   app.sql("DELETE FROM tontotruck");
-  QTimer::singleShot(0, [this] { press_and_answer({"OK"}); });
-  EXPECT_EQ(QApplication::exec(), 1);
+  press_to_the_end("3021");
   EXPECT_THAT(shown(),
               ElementsAre("RuntimeError: Run-time error '3021':\n\nNo current record [stop sign, OK]"));
   EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("24"));

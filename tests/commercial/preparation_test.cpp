@@ -89,6 +89,58 @@ TEST_F(Preparation, without_the_directory_of_the_time_copies_writes_all_else) {
   EXPECT_FALSE(std::filesystem::exists(app.file("truck/trktrp")));
 }
 
+TEST_F(Preparation, a_cost_file_that_cannot_be_made_is_skipped_and_leaves_no_number_open) {
+  std::filesystem::create_directory(app.file("truck/cost2.txt"));
+  add_pick("2", "");
+  add_pick("9", "");
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost9.txt"), "10.61,135,0,50,1,95,\r\n");
+  EXPECT_FALSE(program.desktop.files.is_open(2));
+}
+
+TEST_F(Preparation, number_2_left_open_is_closed_when_no_cost_file_can_be_made) {
+  add_pick("2", "");
+  add_pick("9", "");
+  by_code([this] { program.desktop.files.open_for_output(2, "left_open.txt"); });
+  prepare();
+  EXPECT_FALSE(program.desktop.files.is_open(2));
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), "(none)");
+  EXPECT_EQ(app.bytes("truck/cost9.txt"), "10.61,135,0,50,1,95,\r\n");
+}
+
+TEST_F(Preparation, a_cost_file_that_is_held_open_stays_as_it_is) {
+  add_pick("2", "");
+  add_pick("9", "");
+  by_code([this] { program.desktop.files.open_for_output(3, "truck/cost2.txt"); });
+  prepare();
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), "");
+  EXPECT_EQ(app.bytes("truck/cost9.txt"), "10.61,135,0,50,1,95,\r\n");
+  EXPECT_FALSE(program.desktop.files.is_open(2));
+  EXPECT_TRUE(program.desktop.files.is_open(3));
+}
+
+TEST_F(Preparation, a_pick_behind_the_last_entry_is_skipped) {
+  program.form3.PickCode(13) = "9";
+  program.form3.PickCount = 14;
+  prepare();
+  EXPECT_THAT(app.bytes("truck/outpar.txt"), ::testing::EndsWith("\r\n 14 \r\n"));
+  EXPECT_EQ(app.bytes("truck/cost9.txt"), "10.61,135,0,50,1,95,\r\n");
+  EXPECT_EQ(app.bytes("truck/trktrp/imp_time.txt"), app.bytes("sample/imp_time.txt"));
+  EXPECT_FALSE(program.desktop.files.is_open(1));
+  EXPECT_FALSE(program.desktop.files.is_open(2));
+}
+
+TEST_F(Preparation, a_path_behind_the_eleventh_is_skipped) {
+  std::string columns;
+  for (int column = 4; column <= 12; ++column) {
+    columns += "ALTER TABLE timdist ADD COLUMN more" + std::to_string(column) + " TEXT;";
+  }
+  app.sql(columns + "UPDATE timdist SET more12 = 'sample/districts.txt'");
+  prepare();
+  EXPECT_THAT(app.names_in("truck/trktrp"),
+              ::testing::ElementsAre("base_time.txt", "distance.txt", "imp_time.txt"));
+}
+
 TEST_F(Preparation, failing_statements_are_skipped) {
   std::filesystem::remove_all(app.file("truck/trktrp"));
   add_pick("2", in_app("sample/none.txt"));

@@ -1,4 +1,5 @@
 // Every message of the commercial checks, and what its end leaves behind.
+#include "commercial/form3.h"
 #include "commercial_page.h"
 
 namespace {
@@ -42,6 +43,18 @@ TEST_F(CommercialEnds, no_output_file_keeps_the_page) {
   press_and_answer({"OK"});
   EXPECT_THAT(shown(), ElementsAre("No Output File Specified! [OK]"));
   EXPECT_EQ(left(), page_stays("Form2", " 2"));
+}
+
+TEST_F(CommercialEnds, an_end_that_asks_for_another_try_tells_the_fault_that_the_handler_has_met_before) {
+  open_commercial_page();
+  analyst.will_press("OK");
+  analyst.will_press("OK");
+  as_handler([this] {
+    program.desktop.err.set(runtime::Fault(55));
+    commercial::form3::Command2_Click(program);
+  });
+  EXPECT_THAT(shown(), ElementsAre("No Output File Specified! [OK]", "File already open [OK]"));
+  EXPECT_EQ(left(), page_stays("Form2", ""));
 }
 
 TEST_F(CommercialEnds, no_industry_keeps_the_page) {

@@ -117,6 +117,19 @@ TEST_F(CommercialFiles, hold_seven_digits_of_a_single_precision_value_and_fiftee
   EXPECT_EQ(app.bytes("truck/base_var.txt"), " 1.23456789012345  .1 \r\n");
 }
 
+TEST_F(CommercialFiles, hold_no_speeds_unless_sketch_planning_data_are_used_and_then_none_are_read) {
+  app.sql("DELETE FROM var_input");
+  for (const auto& [option, mode] : {std::pair("Option4(1)", "FILE"), {"Option4(2)", "NONE"}}) {
+    make_ready();
+    analyst.click(option);
+    make_files();
+    EXPECT_THAT(shown(), ElementsAre(summary_of_mining));
+    EXPECT_THAT(app.bytes("truck/outpar.txt"), HasSubstr("\r\n" + std::string(mode) + "\r\n"));
+    EXPECT_FALSE(model_files().contains("base_var.txt")) << mode;
+    EXPECT_FALSE(model_files().contains("imp_var.txt")) << mode;
+  }
+}
+
 TEST_F(CommercialFiles, put_the_output_before_its_first_dot) {
   EXPECT_EQ(output_base_of("/study/results/trucks.txt"), "/study/results/trucks");
   EXPECT_EQ(output_base_of("/study/results.old/trucks.txt"), "/study/results");

@@ -114,6 +114,28 @@ TEST_F(RestoreDefaults, is_not_taken_back_by_cancel) {
   press("Command6", "No");
   press("Command5", "Yes");
   EXPECT_THAT(wages(), ElementsAreArray(commuter_defaults));
+  analyst.choose(share_editor);
+  press("Command6", "No");
+  press("Command1", "Yes");
+  EXPECT_EQ(shares(), share_defaults);
+}
+
+TEST_F(RestoreDefaults, keeps_a_sigma_that_is_being_typed_beside_its_own_rows) {
+  app.sql("INSERT INTO Commercial VALUES (5, 1, 2, 3, 4, 5, 6)");
+  analyst.choose(commercial_editor);
+  type_into("DBGrid1", 4, 0, "3");
+  press("Command2", "Yes");
+  EXPECT_EQ(value("SELECT * FROM Commercial WHERE industry_number = 5"), "5|3.0|2.0|3.0|4.0|5.0|6.0");
+}
+
+TEST_F(RestoreDefaults, writes_the_shares_over_the_record_that_is_current) {
+  spoil_tables();
+  app.sql("INSERT INTO Commute_Param VALUES (2, 2, 2, 2, 2, 2)");
+  analyst.choose(share_editor);
+  key("DBGrid3", Qt::Key_Down);
+  press("Command6", "Yes");
+  EXPECT_THAT(app.rows("SELECT * FROM Commute_Param"),
+              ElementsAre("1.0|1.0|1.0|1.0|1.0|1.0", share_defaults));
 }
 
 TEST_F(RestoreDefaults, wins_over_what_was_just_typed) {

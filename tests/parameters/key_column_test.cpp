@@ -134,6 +134,30 @@ TEST_F(KeyColumn, the_hidden_grid_of_the_industries_is_guarded_in_every_editor) 
   EXPECT_EQ(value("SELECT sigma FROM Commercial WHERE industry_number = 2"), "4.62");
 }
 
+TEST_F(KeyColumn, the_commuter_pair_drops_what_is_being_typed_as_sigma_before_anything_is_read_anew) {
+  for (const char* button : {"Command4", "Command5"}) {
+    analyst.choose(commercial_editor);
+    type_into("DBGrid1", 0, sigma, "3");
+    analyst.choose(commuter_editor);
+    ASSERT_TRUE(editing());
+    press(button, "No");
+    EXPECT_FALSE(editing()) << button;
+    press(button, "Yes");
+    EXPECT_EQ(first_sigma(), as_installed) << button;
+  }
+}
+
+TEST_F(KeyColumn, a_save_that_refuses_the_shares_has_dropped_what_is_being_typed_as_sigma) {
+  app.sql("UPDATE Commute_Param SET ModeShare1 = 7");
+  analyst.choose(commercial_editor);
+  type_into("DBGrid1", 0, sigma, "3");
+  analyst.choose(commuter_editor);
+  analyst.choose(share_editor);
+  press("Command4", "OK");
+  EXPECT_EQ(last_box(), "Mode Shares Must Total 1.0");
+  EXPECT_FALSE(editing());
+}
+
 TEST_F(KeyColumn, the_editor_opens_on_the_unit_cost_with_the_codes_hidden) {
   analyst.choose(commercial_editor);
   EXPECT_EQ(program.form1->DBGrid1.current_column(), 3);

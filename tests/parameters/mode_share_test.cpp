@@ -84,6 +84,29 @@ TEST_F(ModeShares, an_empty_share_is_a_fault_of_null) {
   EXPECT_FALSE(menus_enabled());
 }
 
+TEST_F(ModeShares, a_share_that_was_emptied_is_a_fault_of_null) {
+  open_with("0.5, 0.5, 0, 0");
+  go_to("DBGrid3", 0, 2);
+  key("DBGrid3", Qt::Key_F2);
+  key("DBGrid3", Qt::Key_Backspace);
+  ASSERT_TRUE(program.form1->DBGrid3.edit_active());
+  press("Command4", "OK");
+  EXPECT_EQ(last_box(), "Run-time error '94':\n\nInvalid use of Null");
+  key("DBGrid3", Qt::Key_Tab);
+  ASSERT_FALSE(program.form1->DBGrid3.edit_active());
+  press("Command4", "OK");
+  EXPECT_EQ(last_box(), "Run-time error '94':\n\nInvalid use of Null");
+  EXPECT_TRUE(program.form1.visible());
+}
+
+TEST_F(ModeShares, a_share_that_was_emptied_is_taken_by_the_plain_save) {
+  analyst.choose(share_editor);
+  go_to("DBGrid3", 0, 2);
+  key("DBGrid3", Qt::Key_Delete);
+  press("Command3", "Yes");
+  EXPECT_EQ(shares(), "0.7629|0.0929|null|0.0048|0.25|2.38");
+}
+
 TEST_F(ModeShares, a_word_that_is_being_typed_is_a_type_mismatch) {
   open_with("0.25, 0.25, 0.25, 0.25");
   type_into("DBGrid3", 0, 3, "much");

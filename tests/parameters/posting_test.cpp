@@ -198,13 +198,68 @@ TEST_F(ParameterPosting, the_analysis_page_closes_the_editor_and_drops_what_is_n
   EXPECT_EQ(value(base_speed), "38.0");
 }
 
-TEST_F(ParameterPosting, no_row_comes_or_goes) {
+TEST_F(ParameterPosting, the_wages_chosen_again_store_the_row_that_they_leave) {
   analyst.choose(commuter_editor);
-  edit("DBGrid4", 11, 2, "1");
-  key("DBGrid4", Qt::Key_Down);
-  key("DBGrid4", Qt::Key_Delete);
-  press("Command4", "Yes");
-  EXPECT_EQ(app.rows("SELECT * FROM commuter").size(), 12U);
+  type_into("DBGrid4", 7, 2, "99.5");
+  analyst.choose(commuter_editor);
+  EXPECT_EQ(program.form1->DBGrid4.current_row(), 1);
+  EXPECT_FALSE(program.form1->DBGrid4.edit_active());
+  EXPECT_EQ(value(sales_wage), "99.5");
+}
+
+TEST_F(ParameterPosting, the_costs_chosen_again_keep_an_open_sigma_in_its_row) {
+  analyst.choose(commercial_editor);
+  type_into("DBGrid1", 1, 0, "3");
+  analyst.choose(commercial_editor);
+  EXPECT_EQ(program.form1->DBGrid1.current_row(), 1);
+  EXPECT_EQ(program.form1->DBGrid1.current_column(), 3);
+  EXPECT_FALSE(program.form1->DBGrid1.edit_active());
+  EXPECT_EQ(program.form1->DBGrid1.column_value(1), runtime::Value(3.0F));
+  EXPECT_EQ(value("SELECT sigma FROM Commercial WHERE industry_number = 2"), "4.62");
+  press("Command1", "Yes");
+  EXPECT_EQ(value("SELECT sigma FROM Commercial WHERE industry_number = 2"), "3.0");
+}
+
+TEST_F(ParameterPosting, a_word_in_the_open_cell_is_told_when_its_editor_is_chosen_again) {
+  for (const auto& [editor, grid] : {std::pair(commuter_editor, "DBGrid4"), {commercial_editor, "DBGrid1"}}) {
+    analyst.choose(editor);
+    type_into(grid, 2, 1, "much");
+    analyst.will_press("OK");
+    analyst.choose(editor);
+    EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+    EXPECT_THAT(last_box(), ::testing::StartsWith("Run-time error '3421':")) << editor;
+    EXPECT_TRUE(program.form1.visible());
+    key(grid, Qt::Key_Escape);
+    as_handler([this] { program.form1.Unload(); });
+  }
+  EXPECT_EQ(value(R"(SELECT sigma FROM commuter WHERE "index" = 2)"), "12.25");
+  EXPECT_EQ(value("SELECT sigma FROM Commercial WHERE industry_number = 4"), "7.44");
+}
+
+// What makes and takes away rows in other grids: a step beyond the last one, a block pasted over the end, and
+// the delete key with the whole row selected.
+TEST_F(ParameterPosting, no_row_comes_or_goes_in_any_grid) {
+  for (const auto& [editor, grid, table] : {std::tuple(commercial_editor, "DBGrid1", "Commercial"),
+                                            {reliability_editor, "DBGrid2", "var_input"},
+                                            {share_editor, "DBGrid3", "Commute_Param"},
+                                            {commuter_editor, "DBGrid4", "commuter"}}) {
+    const std::string count = std::string("SELECT count(*) FROM ") + table;
+    const std::string before = value(count);
+    analyst.choose(editor);
+    key(grid, Qt::Key_End, Qt::ControlModifier);
+    analyst.type(grid, "1");
+    key(grid, Qt::Key_Tab);
+    key(grid, Qt::Key_Down);
+    QApplication::clipboard()->setText(QStringLiteral("3\n4\n"));
+    analyst.will_press("OK");
+    key(grid, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(analyst.last_box().name, "MsgBox") << table;
+    key(grid, Qt::Key_Home, Qt::ShiftModifier);
+    key(grid, Qt::Key_Delete);
+    as_handler([this] { program.form1.Unload(); });
+    EXPECT_EQ(value(count), before) << table;
+    as_handler([this] { program.mdiform1.Inputs.set_enabled(true); });
+  }
 }
 
 }  // namespace
