@@ -77,7 +77,8 @@ void ScratchFile::read(std::int64_t offset, std::span<std::byte> bytes) const {
 #else
 
 ScratchFile::ScratchFile(const fs::path& directory) {
-  auto name = (directory / ".scratch_XXXXXX").string();
+  const std::string own_letters(6, 'X');  // the system puts others in their place
+  auto name = (directory / ".scratch_").string() + own_letters;
   handle_ = ::mkostemp(name.data(), O_CLOEXEC);
   if (handle_ < 0) throw Fault(errno == ENOSPC ? 3026 : 75, text_of(directory));
   ::unlink(name.c_str());
