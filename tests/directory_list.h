@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QListWidget>
 #include <QTest>
 
@@ -10,6 +11,7 @@ namespace testing_aids {
 
 /// Clicks a directory once, which does not open it.
 inline void highlight(QListWidget& directories, const QString& name) {
+  QApplication::setActiveWindow(directories.window());  // nobody hands it over without a window manager
   for (int i = 0; i < directories.count(); ++i) {
     QListWidgetItem* item = directories.item(i);
     if (item->text().trimmed() != name) continue;
