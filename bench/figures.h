@@ -1,6 +1,8 @@
 // Times a piece of work over several runs and prints a figure beside its peer's from the same run.
 #pragma once
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -10,8 +12,10 @@
 
 namespace bench {
 
-/// Milliseconds that `work` took.
+/// Milliseconds that `work` took. What earlier work has left for the disk is written before: else whoever is
+/// the first to wait for the disk pays for it.
 inline double timed(const std::function<void()>& work) {
+  sync();
   const auto start = std::chrono::steady_clock::now();
   work();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
