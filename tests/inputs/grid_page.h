@@ -160,7 +160,7 @@ class GridPage : public ProgramTest {
   std::string loaded_forms() const {
     std::string names;
     for (const auto* form : program.desktop.loaded_forms) {
-      names += std::string(names.empty() ? "" : " ") + form->name() + (form->visible() ? "*" : "");
+      names.append(names.empty() ? "" : " ").append(form->name()).append(form->visible() ? "*" : "");
       if (form->window_state() == runtime::forms::WindowState::minimized) names += "-";
     }
     return names;
