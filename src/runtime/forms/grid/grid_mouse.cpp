@@ -32,6 +32,7 @@ void GridView::move_to(Cell cell) {
   sheet.go_to(cell);
   corner_ = cell;
   show_cell(cell);
+  sync();
 }
 
 void GridView::follow_records() {
