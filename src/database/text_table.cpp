@@ -50,7 +50,7 @@ void write(std::ostream& stream, std::string_view bytes) {
 }
 
 void append_lines(Files& files, std::string_view file, const std::vector<std::string>& lines) {
-  constexpr int number = 1;
+  const int number = files.free_number();
   const runtime::files::NumbersInUse numbers(files, number, number);
   files.open_for_append(number, file);
   for (const std::string& line : lines) runtime::text::print_line(files.out(number), {line});
@@ -96,13 +96,13 @@ void export_column(Files& files, runtime::engine::Database& database, const std:
   files.FileCopy(column.template_file, live_description);
   append_lines(files, live_description, column.columns);
   const auto definition = csvtable_definition(database, app_path);
-  files.open_for_output(1, trips_file);
-  files.Close(1);
+  const int number = files.free_number();
+  files.open_for_output(number, trips_file);
+  files.Close(number);
   database.AppendTableDef(definition);
   database.Execute(column.insert);
   database.Execute("Drop TABLE csvtable");
-  if (!files.Dir(column.target).empty()) files.Kill(column.target);
-  files.Name(trips_file, column.target);
+  files.Replace(trips_file, column.target);
 }
 
 }  // namespace database

@@ -43,7 +43,7 @@ struct ColumnExport {
   std::string_view template_file;
   std::vector<std::string> columns;  ///< The lines that go behind the template's own.
   std::string insert;                ///< Fills the link.
-  std::string target;                ///< An older file of this name gives way.
+  std::string target;                ///< An older file of this name gives way to the whole new one.
 };
 
 /// Makes the file. The current directory is the application directory; a link left there is gone already.

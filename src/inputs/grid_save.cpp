@@ -10,8 +10,8 @@
 #include "inputs/chosen.h"
 #include "inputs/grid_mode.h"
 #include "runtime/fault.h"
-#include "runtime/files/numbers_in_use.h"
 #include "runtime/files/path_names.h"
+#include "runtime/files/replacement.h"
 #include "runtime/forms/long_work.h"
 #include "shell/module1.h"
 
@@ -98,32 +98,27 @@ void leave(Program& program) {
   program.form2.Unload();
 }
 
-void open_anew(Program& program, int number, const std::string& path) {
-  auto& files = program.desktop.files;
-  if (!files.Dir(path).empty()) files.Kill(path);
-  files.open_for_output(number, path);
-}
-
-/// A file for each value column of the staging table, in order.
+/// A file for each value column of the staging table, in order. They take their places together, after the
+/// last one is whole: distances and times of two studies must not be mixed.
 void save_value_files(Program& program, const std::vector<std::string>& names) {
   constexpr int key_columns = 2;
   Database db = open_project(program);
   auto pairs = db.OpenRecordset(database::sosec_table);
   pairs.MoveLast();
   pairs.MoveFirst();
-  const int last = static_cast<int>(names.size());
-  const runtime::files::NumbersInUse numbers(program.desktop.files, 1, last);
-  std::deque<database::ValueLines> files;
-  for (int k = 1; k <= last; ++k) {
-    const std::string path = target(program, names[static_cast<std::size_t>(k - 1)]);
-    open_anew(program, k, path);
-    files.emplace_back(program.desktop.files.out(k), path, key_columns + k - 1);
+  std::deque<runtime::files::Replacement> made;
+  std::deque<database::ValueLines> lines;
+  for (const std::string& name : names) {
+    const std::string path = target(program, name);
+    const int column = key_columns + static_cast<int>(lines.size());
+    lines.emplace_back(made.emplace_back(program.desktop.files, path).out(), path, column);
   }
   {
     const LongWork work(program.desktop, "Writing " + names.front());
-    database::write_value_lines(files, pairs);
+    database::write_value_lines(lines, pairs);
+    for (auto& file : made) file.finish();
   }
-  for (int k = 1; k <= last; ++k) program.desktop.files.Close(k);
+  for (auto& file : made) file.put_in_place();
   leave(program);
 }
 

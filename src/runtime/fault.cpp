@@ -26,6 +26,7 @@ constexpr std::array words{
     NumberAndWords{58, "File already exists: |"},
     NumberAndWords{61, "Disk full: |"},
     NumberAndWords{62, "Input past end of file: |"},
+    NumberAndWords{67, "Too many files"},
     NumberAndWords{70, "Permission denied: |"},
     NumberAndWords{75, "Path/File access error: |"},
     NumberAndWords{76, "Path not found: |"},

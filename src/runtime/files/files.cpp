@@ -6,6 +6,7 @@
 
 #include "runtime/fault.h"
 #include "runtime/files/copy_bytes.h"
+#include "runtime/files/flush.h"
 #include "runtime/files/path_names.h"
 #include "runtime/files/path_state.h"
 #include "runtime/files/wildcards.h"
@@ -93,6 +94,37 @@ void Files::Name(std::string_view from, std::string_view to) const {
   if (error == std::errc::cross_device_link && is_plain_file(source))
     return move_to_another_volume(source, target);
   if (error) throw Fault(75, std::string(from));
+}
+
+void Files::Replace(std::string_view from, std::string_view to) const {
+  const fs::path source = resolve(from);
+  const fs::path older = resolve(to);
+  const fs::path target = exactly_named(to);
+  if (!is_there(source)) throw missing_fault(source, from);
+  if (!has_directory(target)) throw Fault(76, std::string(to));
+  if (is_held(source)) throw Fault(55, std::string(from));
+  if (is_held(older)) throw Fault(55, std::string(to));
+  if (is_a_directory(older)) throw Fault(58, std::string(to));
+  flush_to_disk(source);
+  std::error_code error;
+  fs::rename(source, target, error);
+  if (error == std::errc::cross_device_link) {
+    const fs::path beside = exactly_named(std::string(to).append(unfinished_ending));
+    copy_bytes(source, beside);
+    flush_to_disk(beside);
+    fs::rename(beside, target, error);
+    std::error_code left_over;
+    fs::remove(error ? beside : source, left_over);
+  }
+  if (error) throw Fault(75, std::string(to));
+  remove_namesake(older, target);
+  flush_names(target.parent_path());
+}
+
+std::optional<fs::file_time_type> Files::time_of(std::string_view name) const {
+  std::error_code error;
+  const auto time = fs::last_write_time(resolve(name), error);
+  return error ? std::nullopt : std::optional(time);
 }
 
 void Files::ChDir(std::string_view name) const {

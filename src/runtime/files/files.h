@@ -5,12 +5,16 @@
 #include <fstream>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "runtime/files/input_value.h"
 
 namespace runtime::files {
+
+/// Stands behind the name of a file that is on its way to its place.
+inline constexpr std::string_view unfinished_ending = ".part";
 
 /// The file operations of one program and the numbered files that it holds open. Names are UTF-8, are
 /// separated by "/" or "\" and are found without regard to case (see `resolve`); a file that is made bears
@@ -47,6 +51,15 @@ class Files {
   /// without one of the directories, 55 when the program holds it open, else 75.
   void Name(std::string_view from, std::string_view to) const;
 
+  /// Gives a file, which is brought to the disk first, the place of another: there is no moment in which
+  /// neither the older one nor the whole new one is there, also when it comes from another volume. Faults: as
+  /// Name(), but for the older file, which goes: 55 when the program holds it open, 58 for a directory. Then
+  /// nothing has changed.
+  void Replace(std::string_view from, std::string_view to) const;
+
+  /// When a file was last written; nothing when there is none.
+  std::optional<std::filesystem::file_time_type> time_of(std::string_view name) const;
+
   /// Fault 76 when there is no such directory.
   void ChDir(std::string_view name) const;
   std::string current_directory() const;
@@ -57,6 +70,13 @@ class Files {
   void open_for_output(int number, std::string_view name) { open(number, name, Mode::Output); }
   void open_for_append(int number, std::string_view name) { open(number, name, Mode::Append); }
   void open_for_input(int number, std::string_view name) { open(number, name, Mode::Input); }
+
+  /// The lowest number that is not open. Fault 67 when all are.
+  int free_number() const;
+
+  /// Refuses a name that open_for_output() would refuse for what bears it already, 55 and 75, or for its
+  /// missing directory, 76. Touches nothing.
+  void expect_place_for_output(std::string_view name) const;
 
   bool is_open(int number) const { return open_files_.contains(number); }
 
@@ -92,6 +112,7 @@ class Files {
 
   void open(int number, std::string_view name, Mode mode);
   OpenFile& open_file(int number);
+  void expect_no_bar(const std::filesystem::path& found, std::string_view name, Mode mode) const;
   bool is_held(const std::filesystem::path& path) const;
   bool bars_opening(const std::filesystem::path& path, Mode mode) const;
 

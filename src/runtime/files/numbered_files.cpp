@@ -28,9 +28,8 @@ void Files::open(int number, std::string_view name, Mode mode) {
   const std::string given(name);
   if (is_open(number)) throw Fault(55, given);
   const fs::path found = resolve(name);
-  if (bars_opening(found, mode)) throw Fault(55, given);
   if (mode == Mode::Input && !is_there(found)) throw missing_fault(found, name);
-  if (is_a_directory(found)) throw Fault(75, given);
+  expect_no_bar(found, name, mode);
 
   const fs::path path = mode == Mode::Output ? exactly_named(name) : found;
   const auto how = mode == Mode::Input    ? std::ios::in
@@ -42,6 +41,23 @@ void Files::open(int number, std::string_view name, Mode mode) {
   remove_namesake(found, path);
   std::error_code error;
   open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)});
+}
+
+void Files::expect_place_for_output(std::string_view name) const {
+  expect_no_bar(resolve(name), name, Mode::Output);
+  if (!has_directory(exactly_named(name))) throw Fault(76, std::string(name));
+}
+
+void Files::expect_no_bar(const fs::path& found, std::string_view name, Mode mode) const {
+  if (bars_opening(found, mode)) throw Fault(55, std::string(name));
+  if (is_a_directory(found)) throw Fault(75, std::string(name));
+}
+
+int Files::free_number() const {
+  int number = 1;
+  while (is_open(number)) ++number;
+  if (number > last_number) throw Fault(67);
+  return number;
 }
 
 bool Files::bars_opening(const fs::path& path, Mode mode) const {
