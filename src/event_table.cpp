@@ -153,7 +153,7 @@ void tie_events(Program& program) {
   program.frmDataGrid.set_events(bound_to(program, frmdatagrid_table));
   program.frmdirget.set_events(bound_to(program, frmdirget_table));
   QObject::connect(&program.mdiform1.window(), &runtime::forms::MainWindow::close_requested, [&program] {
-    program.desktop.run_event([&program] { shell::mdiform1::close_box(program); });
+    program.desktop.run_person_event([&program] { shell::mdiform1::close_box(program); });
   });
 }
 

@@ -1,7 +1,5 @@
 #include "shell/start_and_exit.h"
 
-#include <QCoreApplication>
-
 #include "shell/module1.h"
 
 namespace shell::mdiform1 {
@@ -11,14 +9,14 @@ void MDIForm_Load(Program& program) {
   GoToAppDirectory(program);
 }
 
-void Mnu_exit_Click(Program&) {
-  QCoreApplication::exit(0);
+void Mnu_exit_Click(Program& program) {
+  program.desktop.end_program(0);
 }
 
 void close_box(Program& program) {
   auto& loaded = program.desktop.loaded_forms;
-  while (!loaded.empty()) loaded.front()->Unload();
-  QCoreApplication::exit(0);
+  while (!loaded.empty()) loaded.front()->unload_for_good();
+  program.desktop.end_program(0);
 }
 
 }  // namespace shell::mdiform1

@@ -103,7 +103,7 @@ void Connection::before_update() {
 }
 
 void Connection::commit_unguarded() {
-  transactions_->before_program();
+  transactions_->make_durable();
 }
 
 void Connection::begin_reading() {

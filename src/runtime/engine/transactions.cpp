@@ -77,17 +77,17 @@ void Transactions::handler_ended() {
   end_reading();
   old_ += static_cast<int>(live_.size());
   live_.clear();
-  make_durable();
-}
-
-void Transactions::before_program() {
-  end_reading();
-  // A level in which nothing was written yet guards none of what waits.
-  const bool is_guarded = std::find(live_.begin(), live_.end(), true) != live_.end();
-  if (!is_guarded) make_durable();
+  commit_all();
 }
 
 void Transactions::make_durable() {
+  end_reading();
+  // A level in which nothing was written yet guards none of what waits.
+  const bool is_guarded = std::find(live_.begin(), live_.end(), true) != live_.end();
+  if (!is_guarded) commit_all();
+}
+
+void Transactions::commit_all() {
   try {
     if (writes_pending()) kept_->run("COMMIT");
   } catch (const Fault& fault) {

@@ -17,7 +17,7 @@ class Transactions {
   int levels() const { return old_ + static_cast<int>(live_.size()); }
 
   void handler_ended();
-  void before_program();
+  void make_durable();
   /// Drops what is not durable.
   void drop();
 
@@ -31,7 +31,7 @@ class Transactions {
 
  private:
   bool writes_pending() const;
-  void make_durable();
+  void commit_all();
 
   int old_ = 0;                       // levels whose handler has ended
   std::vector<bool> live_;            // levels of the present handler: whether a savepoint stands for it

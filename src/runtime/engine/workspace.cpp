@@ -82,8 +82,8 @@ int Workspace::levels() const {
 void Workspace::handler_ended() {
   transactions_->handler_ended();
 }
-void Workspace::before_program() {
-  transactions_->before_program();
+void Workspace::make_durable() {
+  transactions_->make_durable();
 }
 
 bool Workspace::holds(const fs::path& file) const {

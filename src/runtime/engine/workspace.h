@@ -58,7 +58,7 @@ class Workspace {
   void handler_ended();
   /// An external program starts: makes durable what was written, unless a level of this handler holds
   /// some of it.
-  void before_program();
+  void make_durable();
 
   /// Whether `file` is the database file or its journal, while that is open.
   bool holds(const std::filesystem::path& file) const;

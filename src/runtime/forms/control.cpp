@@ -94,11 +94,12 @@ void Control::fire(Event event) {
 void Control::fire_from_person(Event event, std::optional<int> detail) {
   const auto handler = handlers_.find(event);
   if (handler == handlers_.end()) return;
-  desktop_->run_event([running = handler->second, index = detail.value_or(index_)] { running(index); });
+  desktop_->run_person_event(
+      [running = handler->second, index = detail.value_or(index_)] { running(index); });
 }
 
 void Control::desktop_event(const std::function<void()>& action) {
-  desktop_->run_event(action);
+  desktop_->run_person_event(action);
 }
 
 }  // namespace runtime::forms

@@ -50,6 +50,19 @@ void DataControl::post() {
   for (const BoundField& row : boxes_) row.box->changed = false;
 }
 
+std::function<void()> DataControl::edit_keeper() const {
+  std::vector<Bound*> changed;
+  for (const BoundField& row : boxes_) {
+    if (row.box->changed) changed.push_back(row.box);
+  }
+  std::vector<std::function<void()>> edits;
+  for (DBGrid* grid : grids_) edits.push_back(grid->edit_keeper());
+  return [changed, edits] {
+    for (Bound* box : changed) box->changed = true;
+    for (const auto& put_back : edits) put_back();
+  };
+}
+
 void DataControl::Refresh() {
   post_grids();
   if (!table_.empty()) recordset_.Requery();

@@ -1,6 +1,7 @@
 // The data control: a recordset on one table, and the boxes that show and store the fields of its record.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,8 @@ class DataControl : public Control {
   /// Stores the edits of its grids, then the boxes that were changed, and only their fields. Without a record
   /// there is nowhere to store.
   void post();
+  /// Counts as not stored yet, once more, what did so when it was called: for a storing that did not last.
+  std::function<void()> edit_keeper() const;
   /// Stores the edits of its grids, reads the table anew and puts the stored values back into the boxes. One
   /// that was handed its recordset keeps it as it is.
   void Refresh();

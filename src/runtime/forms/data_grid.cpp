@@ -142,6 +142,13 @@ void DBGrid::drop_edit() {
   view_->sync();
 }
 
+std::function<void()> DBGrid::edit_keeper() {
+  return [this, put_back = sheet().edit_keeper()] {
+    put_back();
+    view_->sync();
+  };
+}
+
 void DBGrid::records_changed() {
   sheet().records_changed();
   view_->records_changed();

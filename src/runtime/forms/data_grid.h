@@ -65,6 +65,8 @@ class DBGrid : public Control {
   void post();
   /// Drops both.
   void drop_edit();
+  /// Puts both back as they were when it was called; good as long as the grid shows the same records.
+  std::function<void()> edit_keeper();
   /// The data control was given other records, or has read its own anew: shows them from the current one on.
   void records_changed();
   /// Code has got hold of the records and may move or change them: the grid shows what it did as soon as the

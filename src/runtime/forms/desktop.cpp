@@ -2,12 +2,12 @@
 
 #include <QApplication>
 #include <new>
-#include <optional>
 #include <utility>
 
 #include "runtime/files/path_names.h"
 #include "runtime/forms/boxes.h"
-#include "runtime/forms/input_guard.h"
+#include "runtime/forms/rest.h"
+#include "runtime/forms/status_line.h"
 #include "runtime/process/run_and_wait.h"
 
 namespace runtime::forms {
@@ -56,15 +56,32 @@ void Desktop::set_pointer(Pointer pointer) {
 void Desktop::run_event(const std::function<void()>& handler) {
   // Painted while long work is under way, a window may change its size, or be pressed by an assistive tool:
   // nothing of the program runs inside the work.
-  if (workspace.progress) return;
+  if (resting()) return;
   ++depth_;
-  auto fault = fault_of(handler);
-  --depth_;
-  if (depth_ == 0) {
-    const auto at_end = fault_of([this] { end_of_handler(); });
-    if (!fault) fault = at_end;
-  }
+  const auto fault = fault_of(handler);
+  std::optional<Fault> at_end;
+  if (depth_ == 1) at_end = fault_of([this] { end_of_handler(); });
   if (fault) report(*fault);
+  const bool is_told = at_end && fault && std::string(at_end->what()) == fault->what();
+  if (at_end && !is_told) report(*at_end);
+  --depth_;
+  // Not before the report: in a loop that is ending no box stays.
+  if (depth_ == 0 && exit_code_) QCoreApplication::exit(*exit_code_);
+}
+
+void Desktop::run_person_event(const std::function<void()>& handler) {
+  if (resting() || QApplication::activeModalWidget() != nullptr) return;
+  if (depth_ == 0) remark({});
+  run_event(handler);
+}
+
+void Desktop::remark(const std::string& words) {
+  if (status_line(main_window) == remark_) set_status_line(main_window, words);
+  remark_ = words;
+}
+
+void Desktop::end_program(int exit_code) {
+  exit_code_ = exit_code;
 }
 
 void Desktop::end_of_handler() {
@@ -79,12 +96,12 @@ void Desktop::report(const Fault& fault) {
 
 void Desktop::end_with_report(const Fault& fault) {
   report(fault);
-  QCoreApplication::exit(1);
+  end_program(1);
 }
 
 int Desktop::run_program(const std::string& program) {
-  workspace.before_program();
-  const InputGuard guard;
+  workspace.make_durable();
+  const Rest rest(*this);
   return process::run_and_wait(program, files::native(app_path), [] { QCoreApplication::processEvents(); });
 }
 

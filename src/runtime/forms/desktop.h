@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,9 +62,24 @@ class Desktop {
   /// The pointer over every window of the program.
   void set_pointer(Pointer pointer);
 
-  /// The edge of every handler that a person sets off: a fault that no trap took ends in the run-time error
-  /// report, and when the outermost handler ends, what was written is made durable.
+  /// The edge of every handler: a fault that no trap took ends in the run-time error report, and when the
+  /// outermost handler ends, what was written is made durable. Does nothing while resting().
   void run_event(const std::function<void()>& handler);
+  /// The same for what a person sets off. Drops it, too, while a box waits for its answer: a press that an
+  /// assistive tool makes, or a menu outside the window, passes by the box. Takes the remark away.
+  void run_person_event(const std::function<void()>& handler);
+
+  /// For `Rest` alone.
+  void begin_rest() { ++rests_; }
+  void end_rest() { --rests_; }
+  /// Whether work is under way inside which no handler runs.
+  bool resting() const { return rests_ > 0; }
+
+  /// Says in the status line why a handler ended in silence, until the next one that a person sets off.
+  void remark(const std::string& words);
+
+  /// Ends the program when the outermost handler has ended and what it wrote is durable, or its failure told.
+  void end_program(int exit_code);
 
   /// Starts an external program by its bare name and waits for its end, with no time limit. Meanwhile the
   /// windows repaint, and what the analyst does is dropped. Returns the exit code, or -1.
@@ -84,7 +100,10 @@ class Desktop {
   void end_of_handler();
 
   int depth_ = 0;
+  int rests_ = 0;
   int reports_ = 0;
+  std::string remark_;
+  std::optional<int> exit_code_;  // once the program is to end
 };
 
 }  // namespace runtime::forms

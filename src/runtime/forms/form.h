@@ -53,6 +53,8 @@ class FormBase {
   void Unload();
   /// Stores what the bound boxes hold.
   void store();
+  /// As Unload(), but the form goes only when what it stored is durable; else it holds it as before.
+  void unload_for_good();
   /// Removes the form and drops what its boxes hold.
   void unload_without_storing();
   void set_window_state(WindowState state);

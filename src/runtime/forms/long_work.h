@@ -1,13 +1,11 @@
 // Tells the analyst that long work is under way and how far it is.
 #pragma once
 
-#include <QSize>
 #include <chrono>
 #include <cstdint>
-#include <optional>
 #include <string>
 
-#include "runtime/forms/input_guard.h"
+#include "runtime/forms/rest.h"
 #include "runtime/progress.h"
 
 namespace runtime::forms {
@@ -35,15 +33,12 @@ class LongWork {
  private:
   using Clock = std::chrono::steady_clock;
 
-  void tell_of_a_changed_size() const;
-
   Desktop& desktop_;
   const std::string words_;
   const std::string words_before_;
-  const QSize size_before_;
   Progress outer_;
   Clock::time_point next_paint_;
-  std::optional<InputGuard> guard_;
+  const Rest rest_;
 };
 
 }  // namespace runtime::forms

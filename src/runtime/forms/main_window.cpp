@@ -91,6 +91,7 @@ void MainWindow::build_menu(std::span<const MenuDesign> menu) {
       return {submenu->menuAction(), submenu};
     };
     const Item item = level == 1 ? add(menuBar()) : add(open_menus.back());
+    if (level > 1) menu_of_.emplace(item.action, open_menus.back()->menuAction());
     QObject* named = item.submenu != nullptr ? static_cast<QObject*>(item.submenu) : item.action;
     named->setObjectName(QString::fromUtf8(design.name));
     item.action->setEnabled(design.enabled);
@@ -108,9 +109,18 @@ void MainWindow::set_item_enabled(std::string_view name, bool enabled) {
   items_.find(name)->second.action->setEnabled(enabled);
 }
 
+bool MainWindow::can_be_reached(const QAction& item) const {
+  if (!item.isEnabled()) return false;
+  const auto menu = menu_of_.find(&item);
+  return menu == menu_of_.end() || can_be_reached(*menu->second);
+}
+
 void MainWindow::on_item(std::string_view name, std::function<void()> handler) {
   const Item& item = items_.find(name)->second;
-  const auto run = [this, handler = std::move(handler)] { desktop_.run_event(handler); };
+  // A menu outside the window, or an assistive tool, can press an item whose menu is disabled.
+  const auto run = [this, action = item.action, handler = std::move(handler)] {
+    if (can_be_reached(*action)) desktop_.run_person_event(handler);
+  };
   if (item.submenu != nullptr) {
     connect(item.submenu, &QMenu::aboutToShow, this, run);
   } else {
@@ -120,7 +130,7 @@ void MainWindow::on_item(std::string_view name, std::function<void()> handler) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!desktop_.busy()) emit close_requested();
+  if (!desktop_.busy() && !desktop_.resting()) emit close_requested();
 }
 
 }  // namespace runtime::forms

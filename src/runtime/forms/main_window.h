@@ -47,6 +47,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void build_menu(std::span<const MenuDesign> menu);
+  /// Whether the item and every menu that it stands under are enabled.
+  bool can_be_reached(const QAction& item) const;
 
   Desktop& desktop_;
   QMdiArea* area_;
@@ -55,6 +57,7 @@ class MainWindow : public QMainWindow {
     QMenu* submenu;  // nullptr for an item without children
   };
   std::map<std::string, Item, std::less<>> items_;
+  std::map<const QAction*, const QAction*> menu_of_;  // what an item stands under
 };
 
 }  // namespace runtime::forms

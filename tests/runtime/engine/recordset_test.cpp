@@ -160,7 +160,7 @@ TEST_F(LongWalk, lets_other_programs_write_when_its_handler_ends) {
 
 TEST_F(LongWalk, lets_an_external_program_write_also_within_a_level) {
   workspace.BeginTrans();
-  workspace.before_program();
+  workspace.make_durable();
   EXPECT_EQ(write_from_outside(), "");
 }
 

@@ -124,6 +124,15 @@ void Sheet::step_back() {
   }
 }
 
+std::function<void()> Sheet::edit_keeper() {
+  return [this, edit = edit_, changes = changes_, current = current_] {
+    edit_ = edit;
+    changes_ = changes;
+    current_ = current;
+    window_.forget();
+  };
+}
+
 void Sheet::drop_edit() {
   edit_.reset();
   changes_.clear();

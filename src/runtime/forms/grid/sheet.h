@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -69,6 +70,8 @@ class Sheet {
   /// Closes the cell as it was; where none is open drops the row's buffer.
   void step_back();
   void drop_edit();
+  /// Puts the edit back that was under way when it was called.
+  std::function<void()> edit_keeper();
 
   /// Code has moved the records or written to them: reads anew, and stands on their current row unless a
   /// row is being edited.

@@ -1,0 +1,152 @@
+// The end of the program when what it has written can't be made durable.
+#include <sqlite3.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "program_test.h"
+#include "small_disk.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::StartsWith;
+
+constexpr int goes_on = 42;
+
+/// Another program that reads the project database, and so keeps it from being changed.
+class Reader {
+ public:
+  explicit Reader(const std::filesystem::path& file) {
+    sqlite3_open(file.string().c_str(), &database_);
+    sqlite3_exec(database_, "BEGIN; SELECT count(*) FROM zones", nullptr, nullptr, nullptr);
+  }
+  ~Reader() { sqlite3_close(database_); }
+  Reader(const Reader&) = delete;
+  Reader& operator=(const Reader&) = delete;
+
+ private:
+  sqlite3* database_ = nullptr;
+};
+
+class Leaving : public testing_aids::ProgramTest {
+ protected:
+  Leaving() { program.desktop.workspace.lock_wait = std::chrono::milliseconds(10); }
+
+  /// The exit code with which the program's event loop ends, `goes_on` when it does not.
+  static int in_event_loop(const std::function<void()>& action) {
+    QTimer last;
+    last.setSingleShot(true);
+    QObject::connect(&last, &QTimer::timeout, [] { QCoreApplication::exit(goes_on); });
+    QTimer::singleShot(0, &last, [&] {
+      action();
+      last.start(100);
+    });
+    return QApplication::exec();
+  }
+  int press_close_box() {
+    return in_event_loop([this] { program.mdiform1.window().close(); });
+  }
+
+  std::vector<std::string> distance() { return app.rows("SELECT distance FROM timdist"); }
+  void hold(const std::string& path) {
+    program.form3.Show();
+    program.form3->Text1(5).set_text(path);
+  }
+};
+
+TEST_F(Leaving, by_the_close_box_while_another_program_reads_tells_so_and_stays) {
+  hold("stored.txt");
+  {
+    const Reader reader(app.file("zelmor.mdb"));
+    analyst.will_press("OK");
+    EXPECT_EQ(press_close_box(), goes_on);
+    EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '3260':")));
+    EXPECT_TRUE(program.form3.loaded());
+    EXPECT_EQ(program.form3->Text1(5).text(), "stored.txt");
+  }
+  EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(distance(), ElementsAre("stored.txt"));
+}
+
+#ifndef _WIN32
+TEST_F(Leaving, by_the_close_box_on_a_full_disk_stays_with_what_the_form_holds) {
+  const std::string long_path(20000, 'x');
+  hold(long_path);
+  {
+    const testing_aids::SmallDisk disk(std::filesystem::file_size(app.file("zelmor.mdb")) + 1000);
+    analyst.will_press("OK");
+    EXPECT_EQ(press_close_box(), goes_on);
+    EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '")));
+    EXPECT_TRUE(program.form3.loaded());
+    EXPECT_EQ(program.form3->Text1(5).text(), long_path);
+  }
+  EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(distance(), ElementsAre(long_path));
+}
+
+TEST_F(Leaving, by_the_close_box_while_another_program_reads_keeps_the_edit_of_a_grid) {
+  app.sql("UPDATE zones SET numzones = 2");
+  analyst.choose("Times");
+  auto& grid = program.frmDataGrid->grdDataGrid;
+  as_handler([&] {
+    grid.set_current_column(2);
+    grid.set_edit_active(true);
+  });
+  auto* editor = grid.widget()->findChild<QLineEdit*>(QStringLiteral("CellEditor"));
+  analyst.type("CellEditor", "7.25");
+  ASSERT_EQ(editor->text(), "7.25");
+  {
+    const Reader reader(app.file("zelmor.mdb"));
+    analyst.will_press("OK");
+    EXPECT_EQ(press_close_box(), goes_on);
+    EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '3260':")));
+    EXPECT_TRUE(program.frmDataGrid.loaded());
+    EXPECT_EQ(editor->text(), "7.25");
+  }
+  EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(app.rows("SELECT distance FROM sosec"), ElementsAre("7.25", "null", "null", "null"));
+}
+#endif
+
+TEST_F(Leaving, by_exit_tries_once_more_what_could_not_be_made_durable_and_tells_of_it) {
+  const Reader reader(app.file("zelmor.mdb"));
+  analyst.will_press("OK");
+  as_handler([this] {
+    program.desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update timdist set distance = 'kept'");
+  });
+  analyst.will_press("OK");
+  EXPECT_EQ(in_event_loop([this] { analyst.choose("Mnu_exit"); }), 0);
+  EXPECT_THAT(analyst.texts(),
+              ElementsAre(StartsWith("Run-time error '3260':"), StartsWith("Run-time error '3260':")));
+}
+
+TEST_F(Leaving, by_exit_stores_what_waits_when_the_other_program_is_done) {
+  {
+    const Reader reader(app.file("zelmor.mdb"));
+    analyst.will_press("OK");
+    as_handler([this] {
+      program.desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update timdist set distance = 'kept'");
+    });
+  }
+  EXPECT_EQ(in_event_loop([this] { analyst.choose("Mnu_exit"); }), 0);
+  EXPECT_THAT(distance(), ElementsAre("kept"));
+}
+
+TEST_F(Leaving, with_the_report_of_the_conversion_shows_the_report_of_the_storing_too) {
+  const Reader reader(app.file("zelmor.mdb"));
+  analyst.will_press("OK");
+  analyst.will_press("OK");
+  const auto end = [this] {
+    as_handler([this] {
+      program.desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update timdist set distance = 'kept'");
+      program.desktop.end_with_report(runtime::Fault(53, "commodity.txt"));
+    });
+  };
+  EXPECT_EQ(in_event_loop(end), 1);
+  EXPECT_THAT(analyst.texts(),
+              ElementsAre(StartsWith("Run-time error '53':"), StartsWith("Run-time error '3260':")));
+}
+
+}  // namespace
