@@ -63,6 +63,8 @@ class FrmDataGrid : public runtime::forms::Form<FrmDataGridControls> {
   explicit FrmDataGrid(runtime::forms::Desktop& desktop);
 
   bool EmploymentPass = false;
+  /// Set for a load that shows the staging table as it stands.
+  bool keeps_staging_table = false;
   runtime::engine::Recordset SaveClone;
   std::array<std::string, 16> SelectedFields;
   std::int16_t SelectedFieldCount = 0;

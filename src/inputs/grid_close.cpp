@@ -57,15 +57,57 @@ void keep_population(Program& program, Database& db) {
     empty_to_zero(db, "population", description_of(occupations));
 }
 
+/// The population pass as it stood before its end, to be gone back to when the other pass can't be opened.
+class PopulationPass {
+ public:
+  explicit PopulationPass(Program& program)
+      : program_(program),
+        picked_(program.frmDataGrid.SelectedFields),
+        caption_(program.frmDataGrid.caption()) {
+    program_.desktop.workspace.BeginTrans();
+  }
+
+  void done() const { program_.desktop.workspace.CommitTrans(); }
+
+  void come_back() const {
+    auto& form = program_.frmDataGrid;
+    form.unload_without_storing();
+    program_.desktop.workspace.Rollback();
+    form.EmploymentPass = false;
+    form.SelectedFields = picked_;
+    form.keeps_staging_table = true;
+    runtime::ignoring_faults([&] {
+      form.Load();
+      form.set_caption(caption_);
+      form->Label3.set_caption(form.SelectedFieldsText);
+    });
+    form.keeps_staging_table = false;
+  }
+
+ private:
+  Program& program_;
+  const decltype(Program::frmDataGrid.SelectedFields) picked_;
+  const std::string caption_;
+};
+
 void end_population_pass(Program& program, Database& db) {
   keep_population(program, db);
+  // Behind this stretch the typed values stand nowhere else.
+  program.desktop.workspace.make_durable();
   auto& form = program.frmDataGrid;
+  const PopulationPass population(program);
   forget_picked_names(program);  // not how many: a fill that meets the empty names ends in a fault
   db.Close();
   form.EmploymentPass = true;
-  form->DataLu.close_database();
-  form.Unload();
-  form.Load();
+  try {
+    form->DataLu.close_database();
+    form.Unload();
+    form.Load();
+  } catch (...) {
+    population.come_back();
+    throw;
+  }
+  population.done();
 }
 
 void choose_directory(Program& program) {

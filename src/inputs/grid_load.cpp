@@ -80,6 +80,15 @@ std::string prepare_mode(Program& program) {
          (mode->adds_column_list ? column_list(program) : "") + ")";
 }
 
+void fill_staging_table(Program& program, Database& db) {
+  drop_old_tables(db);
+  const TableDef csvtable = database::csvtable_definition(db, program.desktop.app_path);
+  const std::string create_table = prepare_mode(program);
+  db.AppendTableDef(csvtable);
+  db.Execute(create_table);
+  db.Execute("insert into sosec select * from csvtable");
+}
+
 }  // namespace
 
 void Form_Load(Program& program) {
@@ -89,12 +98,11 @@ void Form_Load(Program& program) {
   make_if_absent(program, database::unused_file);
   Database db = open_project(program);  // the text files need no handle of their own
   runtime::forms::LongWork work(program.desktop, "Loading the zone data");
-  drop_old_tables(db);
-  const TableDef csvtable = database::csvtable_definition(db, program.desktop.app_path);
-  const std::string create_table = prepare_mode(program);
-  db.AppendTableDef(csvtable);
-  db.Execute(create_table);
-  db.Execute("insert into sosec select * from csvtable");
+  if (program.frmDataGrid.keeps_staging_table) {
+    prepare_mode(program);
+  } else {
+    fill_staging_table(program, db);
+  }
   program.frmDataGrid->DataLu.set_recordset(db.OpenRecordset(database::sosec_table));
 }
 

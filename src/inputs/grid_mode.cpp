@@ -21,10 +21,14 @@ std::string column_list(forms::Program& program) {
   return program.form2->Text1(column_list_box).text();
 }
 
+void set_column_list(forms::Program& program, const std::string& columns) {
+  program.form2->Text1(column_list_box).set_text(columns);
+}
+
 void add_to_column_list(forms::Program& program, std::string_view name, std::string_view type) {
   std::string columns = column_list(program);
   columns.append(",").append(name).append(" ").append(type);
-  program.form2->Text1(column_list_box).set_text(columns);
+  set_column_list(program, columns);
 }
 
 std::int16_t zone_count(forms::Program& program) {

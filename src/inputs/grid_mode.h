@@ -23,6 +23,7 @@ void set_mode_word(forms::Program& program, std::string_view word);
 
 /// ", name DOUBLE" for each chosen column, in order, without the first blank.
 std::string column_list(forms::Program& program);
+void set_column_list(forms::Program& program, const std::string& columns);
 /// Puts a column behind those that the list has: a comma, its name and its type.
 void add_to_column_list(forms::Program& program, std::string_view name, std::string_view type);
 

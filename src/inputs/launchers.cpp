@@ -3,6 +3,7 @@
 #include <array>
 
 #include "inputs/grid_mode.h"
+#include "inputs/grid_opening.h"
 #include "inputs/skeleton.h"
 #include "shell/module1.h"
 
@@ -121,6 +122,7 @@ void Times_Click(Program& program) {
     program.desktop.MsgBox(no_zones_message);
     return;
   }
+  const GridOpening opening(program);
   std::array<std::string_view, times_columns.size()> names;
   for (std::size_t i = 0; i < times_columns.size(); ++i) {
     program.frmdirget->List1.set_list(static_cast<int>(i), times_columns[i].planned_file);
@@ -128,7 +130,7 @@ void Times_Click(Program& program) {
   }
   write_skeleton(program, skeleton_of_times, names, zones);
   set_mode_word(program, mode::timdist);
-  program.frmDataGrid.Show();
+  opening.load_grid([&] { program.frmDataGrid.Show(); });
 }
 
 }  // namespace inputs::mdiform1

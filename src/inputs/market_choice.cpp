@@ -6,6 +6,7 @@
 #include "database/catalogue.h"
 #include "inputs/form2.h"
 #include "inputs/grid_mode.h"
+#include "inputs/grid_opening.h"
 #include "inputs/skeleton.h"
 #include "shell/module1.h"
 
@@ -115,18 +116,23 @@ bool prepare_grid(Program& program, const Market& market) {
 }  // namespace
 
 void Command1_Click(Program& program) {
-  if (prepare_grid(program, commercial_market)) program.frmDataGrid.Show();
+  const GridOpening opening(program);
+  if (!prepare_grid(program, commercial_market)) return;
+  opening.load_grid([&] { program.frmDataGrid.Show(); });
 }
 
 void Command3_Click(Program& program) {
+  const GridOpening opening(program);
   if (!prepare_grid(program, commuter_market)) return;
-  // Nothing on the form takes the font on: what this does is to load the form, so that the caption below
-  // replaces the one of the load.
-  program.frmDataGrid.set_font_size(24);
-  program.frmDataGrid.set_caption(mode_word(program) == "employment"
-                                      ? "Enter the number of persons who work in each zone by occupation"
-                                      : "Enter the number of persons living in each zone by occupation");
-  program.frmDataGrid.Show();
+  opening.load_grid([&] {
+    // Nothing on the form takes the font on: what this does is to load the form, so that the caption below
+    // replaces the one of the load.
+    program.frmDataGrid.set_font_size(24);
+    program.frmDataGrid.set_caption(mode_word(program) == "employment"
+                                        ? "Enter the number of persons who work in each zone by occupation"
+                                        : "Enter the number of persons living in each zone by occupation");
+    program.frmDataGrid.Show();
+  });
 }
 
 void Command2_Click(Program& program) {
