@@ -1,6 +1,6 @@
 // The conversion of tons to trucks.
+#include "analysis/model_run.h"
 #include "analysis/run_state.h"
-#include "analysis/verdict.h"
 #include "commercial/form3.h"
 #include "commercial/model_files.h"
 #include "commercial/run.h"
@@ -54,13 +54,14 @@ void bring_inputs(Program& program, std::int16_t zone_count) {
 void run_converter(Program& program) {
   auto& desktop = program.desktop;
   desktop.files.ChDir(market.directory);
-  if (shell::RunAndWait(program, "tontotruck.exe") != 0) {
+  analysis::ModelRun model(program, "tontotruck.exe", market.verdict_file);
+  if (model.exit_code() != 0) {
     const int reply =
         desktop.MsgBox("Error executing truck to ton conversion program", runtime::forms::critical);
     program.form3.LastReply = std::to_string(reply);
     return;
   }
-  const auto error = analysis::read_verdict(desktop.files, market.verdict_file);
+  const auto error = model.verdict();
   desktop.MsgBox(error ? market.refused + *error : "Analysis Completed");
 }
 

@@ -1,5 +1,5 @@
 // The one model program of the commercial run, its verdict and the clean-up.
-#include "analysis/verdict.h"
+#include "analysis/model_run.h"
 #include "commercial/run.h"
 #include "shell/module1.h"
 
@@ -8,10 +8,9 @@ namespace commercial {
 namespace {
 
 /// The verdict file stays open under number 1 until the run's end.
-void tell_verdict(Run& run) {
-  auto& desktop = run.program.desktop;
-  const auto error = analysis::read_verdict(desktop.files, market.verdict_file);
-  desktop.MsgBox(error ? market.refused + *error : "Analysis Completed");
+void tell_verdict(Run& run, analysis::ModelRun& model) {
+  const auto error = model.verdict();
+  run.program.desktop.MsgBox(error ? market.refused + *error : "Analysis Completed");
 }
 
 }  // namespace
@@ -19,11 +18,12 @@ void tell_verdict(Run& run) {
 void run_model(Run& run) {
   Program& program = run.program;
   program.desktop.files.ChDir(market.directory);
-  if (shell::RunAndWait(program, "output.exe") != 0) {
+  analysis::ModelRun model(program, "output.exe", market.verdict_file);
+  if (model.exit_code() != 0) {
     program.desktop.MsgBox("Error executing commercial cost program!", runtime::forms::critical);
     return;
   }
-  tell_verdict(run);
+  tell_verdict(run, model);
   shell::GoToAppDirectory(program);
   analysis::clean_up(program, market);
 }

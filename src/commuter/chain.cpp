@@ -1,5 +1,5 @@
 // The chain of the three model programs and the clean-up of their directory.
-#include "analysis/verdict.h"
+#include "analysis/model_run.h"
 #include "commuter/run.h"
 #include "shell/module1.h"
 
@@ -7,30 +7,27 @@ namespace commuter {
 
 namespace {
 
-struct ModelProgram {
-  const char* file;
-  const char* place;  // in the error text
-};
+using analysis::ModelRun;
 
-constexpr ModelProgram base_run{"CC.EXE", "first"};
-constexpr ModelProgram improvement_run{"CC.EXE", "second"};
-constexpr ModelProgram report_run{"OUTPUT1.EXE", "third"};
+constexpr const char* cost_program = "CC.EXE";
+constexpr const char* report_program = "OUTPUT1.EXE";
 
 void change_to_model_directory(Run& run) {
   run.program.desktop.files.ChDir(market.directory);
 }
 
-End run_program(Run& run, const ModelProgram& model) {
-  if (shell::RunAndWait(run.program, model.file) == 0) return End::go_on;
+/// `place`: that of the program in the chain, for the error text.
+End run_program(Run& run, ModelRun& model, const char* place) {
+  if (model.exit_code() == 0) return End::go_on;
   const int reply = run.program.desktop.MsgBox(
-      std::string("Error executing ") + model.place + " commuter cost program!", runtime::forms::critical);
+      std::string("Error executing ") + place + " commuter cost program!", runtime::forms::critical);
   run.program.form3.LastReply = std::to_string(reply);
   return End::reset;
 }
 
 /// On success `err.txt` stays open under number 1.
-End check_verdict(Run& run) {
-  const auto error = analysis::read_verdict(run.program.desktop.files, market.verdict_file);
+End check_verdict(Run& run, ModelRun& model) {
+  const auto error = model.verdict();
   if (!error) return End::go_on;
   run.program.desktop.MsgBox(market.refused + *error);
   return End::reset;
@@ -51,17 +48,20 @@ End run_chain(Run& run) {
   Program& program = run.program;
   auto& files = program.desktop.files;
   change_to_model_directory(run);
-  if (run_program(run, base_run) != End::go_on) return End::reset;
-  if (check_verdict(run) != End::go_on) return End::reset;
+  ModelRun base(program, cost_program, market.verdict_file);
+  if (run_program(run, base, "first") != End::go_on) return End::reset;
+  if (check_verdict(run, base) != End::go_on) return End::reset;
   files.Close(1);
   swap_to_improvement(run);
   change_to_model_directory(run);
-  if (run_program(run, improvement_run) != End::go_on) return End::reset;
-  if (check_verdict(run) != End::go_on) return End::reset;
+  ModelRun improvement(program, cost_program, market.verdict_file);
+  if (run_program(run, improvement, "second") != End::go_on) return End::reset;
+  if (check_verdict(run, improvement) != End::go_on) return End::reset;
   files.Close(1);
-  if (run_program(run, report_run) != End::go_on) return End::reset;
+  ModelRun report(program, report_program, market.verdict_file);
+  if (run_program(run, report, "third") != End::go_on) return End::reset;
   program.form1.Unload();
-  if (check_verdict(run) != End::go_on) return End::reset;
+  if (check_verdict(run, report) != End::go_on) return End::reset;
   program.desktop.MsgBox("Analysis Completed");
   files.Close(1);
   shell::GoToAppDirectory(program);
