@@ -21,6 +21,11 @@ Fault refused(const fs::path& path, std::string_view name) {
   return Fault(75, std::string(name));
 }
 
+// The opening of a pipe waits for its other end. A device may be written to.
+bool may_be_opened(const fs::path& path, bool is_read) {
+  return is_read ? is_plain_file(path) : !is_a_directory(path) && !is_pipe(path);
+}
+
 }  // namespace
 
 void Files::open(int number, std::string_view name, Mode mode) {
@@ -28,9 +33,12 @@ void Files::open(int number, std::string_view name, Mode mode) {
   const std::string given(name);
   if (is_open(number)) throw Fault(55, given);
   const fs::path found = resolve(name);
-  if (bars_opening(found, mode)) throw Fault(55, given);
+  const std::vector<fs::path> meant = mode == Mode::Output ? namesakes(name) : std::vector{found};
+  for (const fs::path& file : meant)
+    if (bars_opening(file, mode)) throw Fault(55, given);
   if (mode == Mode::Input && !is_there(found)) throw missing_fault(found, name);
-  if (is_a_directory(found)) throw Fault(75, given);
+  for (const fs::path& file : meant)
+    if (!may_be_opened(file, mode == Mode::Input)) throw Fault(75, given);
 
   const fs::path path = mode == Mode::Output ? exactly_named(name) : found;
   const auto how = mode == Mode::Input    ? std::ios::in
@@ -39,9 +47,11 @@ void Files::open(int number, std::string_view name, Mode mode) {
   errno = 0;
   std::fstream stream(path, how | std::ios::binary | (mode == Mode::Input ? std::ios::in : std::ios::out));
   if (!stream) throw refused(path, name);
-  remove_namesake(found, path);
+  remove_namesakes(meant, path);
   std::error_code error;
-  open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)});
+  const auto entry =
+      open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)}).first;
+  text::name_stream(entry->second.stream, entry->second.name);
 }
 
 bool Files::bars_opening(const fs::path& path, Mode mode) const {
