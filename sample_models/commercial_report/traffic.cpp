@@ -53,8 +53,9 @@ double worth_with_choice(const Industry& industry, const Row& row, std::span<con
 }
 
 void refuse_what_is_too_large(const Traffic& traffic, int code) {
-  for (const double value : {traffic.trips, traffic.miles, traffic.base_minutes, traffic.improved_minutes,
-                             traffic.base_dollars, traffic.improved_dollars, traffic.new_choice}) {
+  for (const double value :
+       {traffic.trips, traffic.miles, traffic.base_minutes, traffic.improved_minutes, traffic.base_dollars,
+        traffic.improved_dollars, traffic.new_choice, traffic.benefit()}) {
     if (!std::isfinite(value)) {
       throw Refusal(coded_file("trktrp", code), "the numbers are too large to be computed with");
     }
@@ -113,6 +114,7 @@ std::vector<TrafficByZone> compute_traffic(const Study& study) {
   std::vector<double> improved_minutes(zones);
   std::vector<double> miles(zones);
   std::vector<double> trips(zones);
+  Traffic all;
   for (std::size_t origin = 0; origin < zones; ++origin) {
     base_times.read_row(base_minutes);
     improved_times.read_row(improved_minutes);
@@ -121,7 +123,8 @@ std::vector<TrafficByZone> compute_traffic(const Study& study) {
       trip_files[i].read_row(trips);
       const auto& industry = study.industries[i];
       result[i][origin] = traffic_of(industry, {base_minutes, improved_minutes, miles}, trips);
-      refuse_what_is_too_large(result[i][origin], industry.code);
+      all += result[i][origin];
+      refuse_what_is_too_large(all, industry.code);
     }
   }
   for (auto* const file : {&base_times, &improved_times, &distances}) file->finish();

@@ -1,7 +1,9 @@
 #include "common/line_reader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 #include "common/numbers.h"
@@ -70,8 +72,13 @@ void LineReader::refuse(const std::string& reason) const {
 }
 
 std::string quoted(std::string_view text) {
-  const bool fits = text.size() <= longest_quote;
-  return "'" + std::string(text.substr(0, longest_quote)) + (fits ? "'" : "...'");
+  std::string readable;
+  std::ranges::copy_if(text, std::back_inserter(readable), [](char c) {
+    const auto code = static_cast<unsigned char>(c);
+    return code >= ' ' && code != 0x7F;
+  });
+  const bool fits = readable.size() <= longest_quote;
+  return "'" + readable.substr(0, longest_quote) + (fits ? "'" : "...'");
 }
 
 std::vector<double> read_numbers(LineReader& file, std::size_t count) {

@@ -43,7 +43,8 @@ class LineReader {
   std::size_t line_ = 0;
 };
 
-/// `text` between apostrophes for a refusal, cut where it is too long to read.
+/// `text` between apostrophes for a refusal, without its control characters and cut where it is too long to
+/// read.
 std::string quoted(std::string_view text);
 
 /// The next line as exactly `count` numbers between blanks, each 0 or greater.

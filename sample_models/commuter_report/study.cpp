@@ -1,5 +1,7 @@
 #include "commuter_report/study.h"
 
+#include <cmath>
+
 #include "common/line_reader.h"
 #include "common/parameters.h"
 #include "common/refusal.h"
@@ -19,6 +21,26 @@ ReportedOccupation read_occupation(int code, int zones) {
   return result;
 }
 
+/// The report sums over all zones and occupations.
+void refuse_what_is_too_large(const Commuting& sum, Case which, int code) {
+  for (const double value : {sum.commuters, sum.minutes, sum.miles, sum.dollars}) {
+    if (!std::isfinite(value)) {
+      throw Refusal(result_file(which, code), "the numbers are too large to be computed with");
+    }
+  }
+}
+
+void check_sums(const std::vector<ReportedOccupation>& occupations) {
+  Commuting base;
+  Commuting improvement;
+  for (const auto& occupation : occupations) {
+    for (const auto& zone : occupation.base.zones) base += zone;
+    refuse_what_is_too_large(base, Case::Base, occupation.code);
+    for (const auto& zone : occupation.improvement.zones) improvement += zone;
+    refuse_what_is_too_large(improvement, Case::Improvement, occupation.code);
+  }
+}
+
 }  // namespace
 
 Study read_study() {
@@ -32,6 +54,7 @@ Study read_study() {
   study.travel = read_travel_parameters();
   if (study.districts > 0) study.district_of = read_districts("district.txt", study.zones, study.districts);
   for (const int code : codes) study.occupations.push_back(read_occupation(code, study.zones));
+  check_sums(study.occupations);
   return study;
 }
 

@@ -108,20 +108,34 @@ ByIndustry<bool> check_input(const Request& request) {
 
 using TripFiles = ByIndustry<std::unique_ptr<TripFile>>;
 
+fs::path trip_path(const fs::path& stem, std::size_t industry) {
+  return stem.string() + '_' + std::string(industry_name(industry_codes[industry])) + "_trip.txt";
+}
+
 /// Opens a file for each industry that has trips.
 TripFiles open_files(const fs::path& stem, const ByIndustry<bool>& has_trips) {
   TripFiles files;
   for (std::size_t i = 0; i < files.size(); ++i) {
-    const fs::path path(stem.string() + '_' + std::string(industry_name(industry_codes[i])) + "_trip.txt");
+    if (has_trips[i]) files[i] = std::make_unique<TripFile>(trip_path(stem, i));
+  }
+  return files;
+}
+
+/// All or, as far as the file system allows it, none: a run would take those of an earlier conversion for
+/// this one's.
+void publish(const fs::path& stem, const TripFiles& files) {
+  for (const auto& file : files) {
+    if (file) file->close();
+  }
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const fs::path path = trip_path(stem, i);
     std::error_code ignored;
-    if (has_trips[i]) {
-      files[i] = std::make_unique<TripFile>(path);
+    if (files[i]) {
+      files[i]->take_place();
     } else if (fs::is_regular_file(path, ignored)) {
-      // An earlier conversion left it, and a run would take it for this one's.
       fs::remove(path, ignored);
     }
   }
-  return files;
 }
 
 }  // namespace
@@ -129,15 +143,14 @@ TripFiles open_files(const fs::path& stem, const ByIndustry<bool>& has_trips) {
 void convert() {
   const auto request = read_request();
   const auto has_trips = check_input(request);
-  const auto files = open_files(original_of(commodity_copy, request.directory, request_file), has_trips);
+  const auto stem = original_of(commodity_copy, request.directory, request_file);
+  const auto files = open_files(stem, has_trips);
   for_each_origin(request, [&files](int origin, const TruckRows& rows) {
     for (std::size_t i = 0; i < files.size(); ++i) {
       if (files[i]) files[i]->write_row(origin, rows[i]);
     }
   });
-  for (const auto& file : files) {
-    if (file) file->close();
-  }
+  publish(stem, files);
 }
 
 }  // namespace model

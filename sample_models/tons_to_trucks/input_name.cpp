@@ -31,8 +31,18 @@ bool same_bytes(const fs::path& a, const fs::path& b) {
 
 bool is_original(const fs::directory_entry& entry, const fs::path& copy) {
   std::error_code ignored;
-  if (!entry.is_regular_file(ignored)) return false;
+  if (!entry.is_regular_file(ignored) || fs::equivalent(entry.path(), copy, ignored)) return false;
   return entry.file_size(ignored) == fs::file_size(copy, ignored) && same_bytes(entry.path(), copy);
+}
+
+/// The front end lets nobody pick a path with a blank in it.
+bool can_be_picked(const fs::path& path) {
+  return path.filename().string().find(' ') == std::string::npos;
+}
+
+bool goes_before(const fs::path& one, const fs::path& other) {
+  if (can_be_picked(one) != can_be_picked(other)) return can_be_picked(one);
+  return one < other;
 }
 
 }  // namespace
@@ -42,7 +52,7 @@ fs::path original_of(const fs::path& copy, const fs::path& directory, const std:
   std::error_code unreadable;
   for (fs::directory_iterator entry(directory, unreadable), end; !unreadable && entry != end;
        entry.increment(unreadable)) {
-    if ((!found || entry->path() < *found) && is_original(*entry, copy)) found = entry->path();
+    if ((!found || goes_before(entry->path(), *found)) && is_original(*entry, copy)) found = entry->path();
   }
   if (!found) throw Refusal(named_in, 1, "the commodity file is not in '" + directory.string() + "'");
   return found->replace_extension();

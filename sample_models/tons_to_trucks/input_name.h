@@ -5,9 +5,9 @@
 
 namespace model {
 
-/// The path without extension of the file in `directory` whose bytes are those of the file `copy`; of
-/// several, the first by name. Throws Refusal, as a fault of the file `named_in`, when the directory has
-/// none.
+/// The path without extension of the file in `directory`, other than `copy` itself, whose bytes are those of
+/// `copy`; of several, the first by name, those without blanks before all others. Throws Refusal, as a fault
+/// of the file `named_in`, when the directory has none.
 std::filesystem::path original_of(const std::filesystem::path& copy, const std::filesystem::path& directory,
                                   const std::string& named_in);
 

@@ -47,16 +47,21 @@ bool fits_column(double trips) {
 }
 
 TripFile::TripFile(std::filesystem::path path)
-    : path_(std::move(path)), file_(path_, std::ios::binary | std::ios::trunc) {
-  if (!file_) throw Refusal(path_.string(), "the file cannot be written");
+    : path_(std::move(path)),
+      unfinished_(path_.string() + ".part"),
+      file_(unfinished_, std::ios::binary | std::ios::trunc) {
+  if (!file_) refuse();
 }
 
 TripFile::~TripFile() {
-  if (closed_) return;
   file_.close();
   std::error_code ignored;
   // Only a plain file can be a cut one: a directory or a device of that name was there before.
-  if (std::filesystem::is_regular_file(path_, ignored)) std::filesystem::remove(path_, ignored);
+  if (std::filesystem::is_regular_file(unfinished_, ignored)) std::filesystem::remove(unfinished_, ignored);
+}
+
+void TripFile::refuse() const {
+  throw Refusal(path_.string(), "the file cannot be written");
 }
 
 void TripFile::write_row(int origin, std::span<const double> trips) {
@@ -71,13 +76,19 @@ void TripFile::write_row(int origin, std::span<const double> trips) {
     lines += "\r\n";
   }
   file_.write(lines.data(), static_cast<std::streamsize>(lines.size()));
-  if (!file_) throw Refusal(path_.string(), "the file cannot be written");
+  if (!file_) refuse();
 }
 
 void TripFile::close() {
   file_.close();
-  if (!file_) throw Refusal(path_.string(), "the file cannot be written");
-  closed_ = true;
+  std::error_code ignored;
+  if (!file_ || std::filesystem::is_directory(path_, ignored)) refuse();
+}
+
+void TripFile::take_place() {
+  std::error_code error;
+  std::filesystem::rename(unfinished_, path_, error);
+  if (error) refuse();
 }
 
 }  // namespace model

@@ -11,11 +11,11 @@ namespace model {
 bool fits_column(double trips);
 
 /// Writes origin, destination and trips of every pair of zones, each at the right of 10 columns, the trips
-/// with up to four decimals and no more of them than fit. What is not closed is removed, so that nobody takes
-/// a part of a file for the whole.
+/// with up to four decimals and no more of them than fit. They are written beside their place, so that nobody
+/// takes a part of a file for the whole, however the program ends.
 class TripFile {
  public:
-  /// Replaces the file at `path`.
+  /// For the file at `path`, which may be there.
   explicit TripFile(std::filesystem::path path);
   ~TripFile();
   TripFile(const TripFile&) = delete;
@@ -24,13 +24,18 @@ class TripFile {
   /// Writes the trips from `origin` to each zone, all of which fit their columns.
   void write_row(int origin, std::span<const double> trips);
 
-  /// Closes the file. Throws Refusal when not every byte reached it.
+  /// Closes the file. Throws Refusal when not every byte reached it, or when it can't have its place.
   void close();
 
+  /// Gives the closed file its place. Throws Refusal when that fails.
+  void take_place();
+
  private:
+  [[noreturn]] void refuse() const;
+
   std::filesystem::path path_;
+  std::filesystem::path unfinished_;
   std::ofstream file_;
-  bool closed_ = false;
 };
 
 }  // namespace model

@@ -7,6 +7,8 @@
 #include <QGenericPlugin>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -83,6 +85,10 @@ void walk_the_entry(analyst::Analyst& analyst, const std::string& zones) {
 }
 
 void play() {
+  if (auto* refusal = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+    std::printf("%s\n", refusal->text().toStdString().c_str());
+    return refusal->button(QMessageBox::Ok)->click();
+  }
   QWidget* window = main_window();
   if (window == nullptr) return QApplication::exit(1);
   analyst::Analyst analyst(*window);

@@ -64,6 +64,7 @@ class RealProcess {
     if (!process_.waitForFinished(time_limit) || process_.exitStatus() != QProcess::NormalExit) return -1;
     return process_.exitCode();
   }
+  qint64 process_id() const { return process_.processId(); }
   std::string said() { return (said_ += process_.readAllStandardOutput()).toStdString(); }
   std::string complained() { return process_.readAllStandardError().toStdString(); }
 
@@ -119,6 +120,18 @@ TEST_F(InstalledProgram, killed_in_the_middle_of_a_run_keeps_what_was_saved_and_
   EXPECT_THAT(app.bytes("results/sales.txt"), HasSubstr("The improvement saves the commuters of the study"));
 }
 
+TEST_F(InstalledProgram, does_not_start_where_another_one_is_at_work) {
+  app.put_stand_in("CC.EXE");
+  app.put_file("commuter/stand_in.txt", "directory started.txt\nsleep 60000\n");
+  RealProcess first(app);
+  ASSERT_TRUE(first.waits_until_there_is(app.file("commuter/started.txt"))) << first.complained();
+  RealProcess second(app);
+  EXPECT_EQ(second.ends_with(), 1) << second.complained();
+  EXPECT_THAT(second.said(), HasSubstr("Quelar is already at work in this directory:\n" + app.path()));
+  EXPECT_THAT(second.said(), HasSubstr("process " + std::to_string(first.process_id())));
+  first.kill_at_once();
+}
+
 /// Killed in the middle of an entry, so large that it takes a while.
 class KilledEntry : public InstalledProgram {
  protected:
@@ -172,11 +185,13 @@ TEST_F(KilledEntry, in_a_fill_can_be_made_again) {
   expect_that_an_entry_can_be_made();
 }
 
-TEST_F(KilledEntry, in_the_save_can_be_made_again) {
+TEST_F(KilledEntry, in_the_save_leaves_the_former_file_and_can_be_made_again) {
   constexpr std::size_t zones = 700;
-  kill_in(zones, "saving", "distance.txt");
+  app.put_file("distance.txt", "former");
+  kill_in(zones, "saving", "distance.txt.part");
   constexpr std::size_t shortest_line = 9;
-  EXPECT_LT(size_of("distance.txt"), zones * zones * shortest_line);
+  EXPECT_LT(size_of("distance.txt.part"), zones * zones * shortest_line);
+  EXPECT_EQ(app.bytes("distance.txt"), "former");
   expect_that_an_entry_can_be_made();
 }
 

@@ -25,6 +25,19 @@ TEST_P(TruckRefusal, names_the_file_the_line_and_the_reason) {
 const std::string no_crlf = "the line does not end in carriage return and line feed";
 const std::string too_large = "trktrp4.txt: the numbers are too large to be computed with";
 
+TEST(TruckSums, that_are_too_large_over_all_zones_are_refused_with_the_file) {
+  const StudyDirectory study;
+  write_two_zone_trucks(study);
+  ask_for_trucks(study, "NONE", "0             0");
+  study.write("trktrp4.txt", with_crlf("         1         1         1\n         1         2          \n"
+                                       "         2         1          \n         2         2         1\n"));
+  for (const char* file : {"base_time.txt", "imp_time.txt"})
+    study.write(file, "1 1 1E308\r\n1 2 1\r\n2 1 1\r\n2 2 1E308\r\n");
+  EXPECT_EQ(study.run(TRUCK_REPORT_PROGRAM), 0);
+  EXPECT_EQ(study.read("Err.txt"), "1, " + too_large + "\r\n");
+  EXPECT_FALSE(study.has("report.txt"));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     request, TruckRefusal,
     testing::Values(

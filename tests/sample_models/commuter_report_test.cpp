@@ -278,6 +278,8 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedFile{"costbase7.txt", "3 NONE\r\n",
                     "costbase7.txt line 1: the results were made for another study"},
         RefusedFile{"costbase7.txt", "2 NONE\r\n2 1 1 1 1\r\n", "costbase7.txt line 2: zone 1 is missing"},
+        RefusedFile{"costbase7.txt", "2 NONE\r\n1 1 1 1 1E308\r\n2 1 1 1 1E308\r\n",
+                    "costbase7.txt: the numbers are too large to be computed with"},
         RefusedFile{"costbase7.txt", "2 DB 30\r\n",
                     "costbase7.txt line 1: the speed and the highway share are damaged"},
         RefusedFile{

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#ifdef __linux__
+#include <sys/resource.h>
+#endif
+
 #include "sample_models/refused_file.h"
 
 namespace model_test {
@@ -113,6 +117,43 @@ TEST_F(TonsToTrucks, of_equal_files_the_first_by_name_gives_the_name) {
   EXPECT_FALSE(place.has("freight/apples_Agriculture_trip.txt"));
 }
 
+TEST_F(TonsToTrucks, name_without_blanks_goes_before_others) {
+  write("freight/a copy.txt", place.read("truck/commodity.txt"));
+  EXPECT_EQ(verdict(), "0\r\n");
+  EXPECT_TRUE(place.has("freight/grain_Agriculture_trip.txt"));
+  EXPECT_FALSE(place.has("freight/a copy_Agriculture_trip.txt"));
+  place.remove("freight/grain.txt");
+  EXPECT_EQ(verdict(), "0\r\n");
+  EXPECT_TRUE(place.has("freight/a copy_Agriculture_trip.txt"));
+}
+
+TEST_F(TonsToTrucks, copy_itself_gives_no_name) {
+  write("truck/ttc.txt", "truck/\r\n 2 \r\n");
+  EXPECT_EQ(verdict(), "1, ttc.txt line 1: the commodity file is not in '../truck/'\r\n");
+  write("truck/ore.txt", place.read("truck/commodity.txt"));
+  EXPECT_EQ(verdict(), "0\r\n");
+  EXPECT_TRUE(place.has("truck/ore_Agriculture_trip.txt"));
+  EXPECT_FALSE(place.has("truck/commodity_Agriculture_trip.txt"));
+}
+
+TEST_F(TonsToTrucks, file_of_the_copys_name_in_another_directory_gives_it) {
+  place.remove("freight/grain.txt");
+  write("freight/commodity.txt", place.read("truck/commodity.txt"));
+  EXPECT_EQ(verdict(), "0\r\n");
+  EXPECT_TRUE(place.has("freight/commodity_Agriculture_trip.txt"));
+}
+
+TEST_F(TonsToTrucks, trips_take_their_places_together_or_not_at_all) {
+  write("freight/grain_Agriculture_trip.txt", "old");
+  write("freight/grain_Mining_trip.txt", "old");
+  std::filesystem::create_directory(place.path() / "freight/grain_Manufacturing_trip.txt");
+  EXPECT_EQ(verdict(), "1, ../freight/grain_Manufacturing_trip.txt: the file cannot be written\r\n");
+  EXPECT_EQ(place.read("freight/grain_Agriculture_trip.txt"), "old");
+  EXPECT_EQ(place.read("freight/grain_Mining_trip.txt"), "old");
+  EXPECT_FALSE(place.has("freight/grain_Agriculture_trip.txt.part"));
+  EXPECT_FALSE(place.has("freight/grain_Manufacturing_trip.txt.part"));
+}
+
 TEST_F(TonsToTrucks, values_keep_to_their_columns) {
   write("truck/tontotruck.txt", "  1  1  1  1\r\n");
   commodities("1 1 1 1234567.88888\r\n1 2 1 9999999999.4\r\n2 1 1 0.33333\r\n2 2 1 0.00004\r\n");
@@ -125,8 +166,23 @@ TEST_F(TonsToTrucks, values_keep_to_their_columns) {
 }
 
 #ifdef __linux__
+// The system ends a program that writes beyond a limit which nobody watches, as a kill would: neither a cut
+// file nor a verdict of success may be found then.
+TEST_F(TonsToTrucks, cut_trips_do_not_stay_when_no_verdict_can_be_written) {
+  write("freight/grain_Agriculture_trip.txt", "old");
+  const rlimit small{100, RLIM_INFINITY};
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  setrlimit(RLIMIT_FSIZE, &small);
+  const int exit_code = place.run(TONS_PROGRAM, "truck");
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_NE(exit_code, 0);
+  EXPECT_EQ(place.read("truck/Err.txt"), "1, the program did not reach its end\r\n");
+  EXPECT_EQ(place.read("freight/grain_Agriculture_trip.txt"), "old");
+}
+
 TEST_F(TonsToTrucks, trips_that_do_not_fit_on_the_disk_are_refused) {
-  std::filesystem::create_symlink("/dev/full", place.path() / "freight/grain_Manufacturing_trip.txt");
+  std::filesystem::create_symlink("/dev/full", place.path() / "freight/grain_Manufacturing_trip.txt.part");
   EXPECT_EQ(verdict(), "1, ../freight/grain_Manufacturing_trip.txt: the file cannot be written\r\n");
 }
 
@@ -197,6 +253,10 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedFile{"commodity.txt", "1 1 1 4000", "commodity.txt line 1: " + no_crlf},
         RefusedFile{"commodity.txt", "1 1 4000\r\n",
                     "commodity.txt line 1: the line must hold 4 numbers and holds 3"},
+        RefusedFile{"commodity.txt", "1 1 1 40\x1b[31m\t00\x7f\r\n",
+                    "commodity.txt line 1: '40[31m00' is not a number"},
+        RefusedFile{"commodity.txt", "1 1 1 1E308\r\n1 1 1 1E308\r\n",
+                    "commodity.txt: the trips from 1 to 1 do not fit in 10 columns"},
         RefusedFile{"commodity.txt", "1 1 1 -4000\r\n", "commodity.txt line 1: '-4000' is negative"},
         RefusedFile{"commodity.txt", "3 1 1 4000\r\n",
                     "commodity.txt line 1: the zone must be a whole number from 1 to 2"},

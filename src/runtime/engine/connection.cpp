@@ -25,6 +25,10 @@ int authorize(void* callbacks, int action, const char* object, const char* /*det
   return touches_a_table && sqlite3_stricmp(object, fence.c_str()) == 0 ? SQLITE_OK : SQLITE_DENY;
 }
 
+int wait_for_lock(void* lock_wait, int /*times_before*/) noexcept {
+  return static_cast<LockWait*>(lock_wait)->wait() ? 1 : 0;
+}
+
 // The store knows one word of the system for a full disk; a quota and a limit of a file's size have their
 // own.
 int full_disk_or(int code, sqlite3* handle) {
@@ -39,8 +43,8 @@ int full_disk_or(int code, sqlite3* handle) {
 }  // namespace
 
 Connection::Connection(std::filesystem::path file, std::shared_ptr<Transactions> transactions,
-                       std::chrono::milliseconds lock_wait)
-    : file_(std::move(file)), transactions_(std::move(transactions)) {
+                       LockWait lock_wait)
+    : file_(std::move(file)), transactions_(std::move(transactions)), lock_wait_(std::move(lock_wait)) {
   // What the store sorts may be larger than what the system's own place for temporary files holds.
   sqlite3_free(sqlite3_temp_directory);
   sqlite3_temp_directory = sqlite3_mprintf("%s", file_.parent_path().string().c_str());
@@ -50,7 +54,7 @@ Connection::Connection(std::filesystem::path file, std::shared_ptr<Transactions>
   const int code = sqlite3_open_v2(reinterpret_cast<const char*>(name.c_str()), &handle_, flags, nullptr);
   try {
     check(code);
-    configure(lock_wait);
+    configure();
   } catch (...) {
     forget_statements();
     sqlite3_close(handle_);
@@ -63,9 +67,9 @@ Connection::~Connection() {
   sqlite3_close(handle_);
 }
 
-void Connection::configure(std::chrono::milliseconds lock_wait) {
+void Connection::configure() {
   sqlite3_extended_result_codes(handle_, 1);
-  sqlite3_busy_timeout(handle_, static_cast<int>(lock_wait.count()));
+  sqlite3_busy_handler(handle_, &wait_for_lock, &lock_wait_);
   // A name that does not exist is an error, never a text.
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
@@ -75,16 +79,21 @@ void Connection::configure(std::chrono::milliseconds lock_wait) {
   check(register_stored_value(handle_, &callbacks_.fault));
   check(register_text_files(handle_, &linked_tables_));
 
-  // An empty file opens without a word, so its size is asked for; a foreign one is told by this first read.
-  Statement pages(*this, "PRAGMA page_count");
-  if (!pages.step() || pages.whole(0) == 0) throw Fault(3343, file_.string());
+  if (!has_pages()) throw Fault(3343, file_.string());
   run("PRAGMA secure_delete=OFF");  // overwriting what is dropped costs twenty times the drop
   run("PRAGMA cache_size=-16384");  // in KiB; a small one waits for the disk at every few hundred pages
   // The file alone must hold all when it is copied, whatever another tool has set.
   run("PRAGMA journal_mode=DELETE");
 }
 
+// An empty file opens without a word, so its size is asked for; a foreign one is told by this first read.
+bool Connection::has_pages() {
+  Statement pages(*this, "PRAGMA page_count");
+  return pages.step() && pages.whole(0) != 0;
+}
+
 void Connection::check(int code) {
+  lock_wait_.over();
   if (code == SQLITE_OK || code == SQLITE_ROW || code == SQLITE_DONE) return;
   row_counts_.forget();  // a failed statement may have taken back the whole transaction
   if (const auto error = std::exchange(linked_tables_.error, nullptr)) std::rethrow_exception(error);

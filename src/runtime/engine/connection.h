@@ -1,7 +1,6 @@
 // The connection to the open file and its statements; for this room only.
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -10,6 +9,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "runtime/engine/lock_wait.h"
 #include "runtime/engine/row_counts.h"
 #include "runtime/engine/row_values.h"
 #include "runtime/engine/text_driver/linked_table.h"
@@ -32,14 +32,14 @@ struct Callbacks {
 /// The open file. Lives as long as a handle, a recordset or a write not yet durable needs it.
 class Connection : public std::enable_shared_from_this<Connection> {
  public:
-  /// Opens `file`, which must exist. Faults: 3343, 3049, 3260, 75.
-  Connection(std::filesystem::path file, std::shared_ptr<Transactions> transactions,
-             std::chrono::milliseconds lock_wait);
+  /// Opens `file`, which must exist, by its absolute name. Faults: 3343, 3049, 3260, 75.
+  Connection(std::filesystem::path file, std::shared_ptr<Transactions> transactions, LockWait lock_wait);
   ~Connection();
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;
 
   const std::filesystem::path& file() const { return file_; }
+  LockWait& lock_wait() { return lock_wait_; }
 
   /// What the workspace lends while it lives; either may be empty.
   Progress progress;
@@ -80,13 +80,15 @@ class Connection : public std::enable_shared_from_this<Connection> {
   friend class Statement;
   friend class Fence;
 
-  void configure(std::chrono::milliseconds lock_wait);
+  void configure();
+  bool has_pages();
   void check(int code);
   sqlite3_stmt* take(std::string_view sql);
   void give_back(std::string sql, sqlite3_stmt* statement);
 
   std::filesystem::path file_;
   std::shared_ptr<Transactions> transactions_;
+  LockWait lock_wait_;
   sqlite3* handle_ = nullptr;
   Callbacks callbacks_;
   RowValues row_values_{&callbacks_.fault, {}};

@@ -110,7 +110,8 @@ void Recordset::Update() {
   auto& s = state();
   if (s.pending == State::Pending::None) throw Fault(3020);
   std::int64_t key = s.current.key;
-  if (s.pending == State::Pending::Change) {
+  // Stored or not, it is under way no longer.
+  if (std::exchange(s.pending, State::Pending::None) == State::Pending::Change) {
     s.connection->before_update();
     s.change();
   } else {
@@ -120,13 +121,18 @@ void Recordset::Update() {
   }
   const bool shows_a_row = s.place == State::Place::OnRow || s.is_empty;
   s.is_empty = false;
-  s.pending = State::Pending::None;
   if (shows_a_row) s.stand_on(s.rows.at(*s.connection, key), State::Place::PastLast);
 }
 
 void Recordset::CancelUpdate() {
   if (state().pending == State::Pending::None) throw Fault(3020);
   state().pending = State::Pending::None;
+}
+
+void Recordset::ReadAgain() {
+  auto& s = state();
+  if (s.place == State::Place::OnRow)
+    s.stand_on(s.rows.at(*s.connection, s.current.key), State::Place::PastLast);
 }
 
 FieldKind Recordset::field_kind(int position) const {

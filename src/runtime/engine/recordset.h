@@ -72,11 +72,16 @@ class Recordset {
   void set(std::string_view name, const Value& value);
   void set(int position, const Value& value);
   /// Stores the fields that were set, no others. After an edit the fields are as stored; after AddNew() the
-  /// current record is the one before it, or the new one when there was none at all. Faults: 3020 without
-  /// AddNew() or Edit(), 3021 when the row is gone, and those of a write: 3026, 3027, 3049, 3260, 1032.
+  /// current record is the one before it, or the new one when there was none at all. A fault drops the record
+  /// under way. Faults: 3020 without AddNew() or Edit(), 3021 when the row is gone, and those of a write:
+  /// 3026, 3027, 3049, 3260, 1032.
   void Update();
   /// Drops the record under way. Fault 3020 when there is none.
   void CancelUpdate();
+
+  /// Reads the fields of the current record anew, for what was taken back since; past the last row when it is
+  /// gone.
+  void ReadAgain();
 
   FieldKind field_kind(int position) const;
 

@@ -10,7 +10,9 @@ namespace runtime::engine {
 
 namespace {
 
-// What a statement that does not compile was refused for is told in words only.
+// What a statement that does not compile was refused for is told in words only. What an analyst types is no
+// statement until its syntax was looked at, so words that are not known here tell of one of the program's
+// own.
 Fault fault_of_statement(std::string_view message) {
   constexpr std::array prefixes{
       std::pair{std::string_view("no such table: "), 3078},
@@ -19,6 +21,8 @@ Fault fault_of_statement(std::string_view message) {
       std::pair{std::string_view("no such function: "), 3085},
       std::pair{std::string_view("duplicate column name: "), 3191},
       std::pair{std::string_view("too many arguments on function "), 3360},
+      std::pair{std::string_view("parser stack overflow"), 3360},
+      std::pair{std::string_view("Expression tree is too large"), 3360},
   };
   for (const auto& [prefix, number] : prefixes)
     if (message.starts_with(prefix)) return Fault(number, std::string(message.substr(prefix.size())));
@@ -30,7 +34,7 @@ Fault fault_of_statement(std::string_view message) {
   constexpr std::string_view exists = "\" already exists";
   if (message.starts_with(table) && message.find(exists) != std::string_view::npos)
     return Fault(3010, std::string(message.substr(table.size(), message.find(exists) - table.size())));
-  return Fault(3075, std::string(message));
+  return Fault(51, std::string(message));
 }
 
 int fault_number(int code) {
@@ -64,8 +68,9 @@ Fault fault_of(int code, const std::string& message, const std::filesystem::path
   if (code == SQLITE_READONLY_DBMOVED) return Fault(1032, file.string());
   switch (code & 0xff) {
     case SQLITE_ERROR:
-    case SQLITE_AUTH:
       return fault_of_statement(message);
+    case SQLITE_AUTH:  // typed, and beyond the fence
+      return Fault(3075, message);
     case SQLITE_CONSTRAINT:
     case SQLITE_MISMATCH:
       return Fault(3421, message);

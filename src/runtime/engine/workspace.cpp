@@ -1,6 +1,7 @@
 #include "runtime/engine/workspace.h"
 
 #include <system_error>
+#include <utility>
 
 #include "runtime/engine/connection.h"
 #include "runtime/engine/transactions.h"
@@ -45,18 +46,24 @@ Workspace::~Workspace() {
   if (const auto connection = open_.lock()) {
     connection->progress = {};
     connection->resolve_name = {};
+    connection->lock_wait().told = {};
   }
 }
 
 Database Workspace::OpenDatabase(std::string_view name) {
-  const fs::path file = resolve_name(name);
   std::error_code ignored;
+  // The current directory changes while the file is open; its temporary files must not.
+  const fs::path file = fs::absolute(resolve_name(name), ignored);
   if (!fs::exists(file, ignored)) throw Fault(3024, std::string(name));
 
   auto connection = open_.lock();
   if (connection && !same_file(connection->file(), file)) throw Fault(75, file.string());
   if (!connection) {
-    connection = std::make_shared<Connection>(file, transactions_, lock_wait);
+    LockWait wait(lock_wait);
+    wait.told = [this](bool is_waiting) {
+      if (waiting) waiting(is_waiting);
+    };
+    connection = std::make_shared<Connection>(file, transactions_, std::move(wait));
     check_tables(*connection, required_tables);
     connection->progress = [this](std::int64_t done, std::int64_t total) {
       if (progress) progress(done, total);
@@ -80,6 +87,13 @@ int Workspace::levels() const {
   return transactions_->levels();
 }
 void Workspace::handler_ended() {
+  struct Anew {
+    std::shared_ptr<Connection> connection;
+    ~Anew() {
+      if (connection) connection->lock_wait().begin_anew();
+    }
+  };
+  const Anew next_handler{open_.lock()};
   transactions_->handler_ended();
 }
 void Workspace::make_durable() {

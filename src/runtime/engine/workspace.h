@@ -33,8 +33,13 @@ class Workspace {
   /// The tables that a project database must hold, looked at when a file is opened.
   std::vector<std::string> required_tables;
 
-  /// How long a lock of another program is waited for.
+  /// How long locks of other programs are waited for, in all that a handler does. As it stands when a file is
+  /// opened.
   std::chrono::milliseconds lock_wait{5000};
+
+  /// Told true when a wait for another program begins, false when it is over. At true it may not use the
+  /// database.
+  std::function<void(bool)> waiting;
 
   /// Told by long statements how many rows of how many are done.
   Progress progress;

@@ -7,6 +7,7 @@
 
 #include "runtime/fault.h"
 #include "runtime/files/path_names.h"
+#include "runtime/files/plain_file.h"
 #include "runtime/text/print_line.h"
 
 namespace runtime::files {
@@ -29,6 +30,7 @@ void pour(std::ifstream& source, std::ofstream& target, const std::string& sourc
 }  // namespace
 
 void copy_bytes(const std::filesystem::path& from, const std::filesystem::path& to) {
+  expect_plain_file(from);
   std::ifstream source(from, std::ios::binary);
   if (!source) throw Fault(75, text_of(from));
   std::ofstream target(to, std::ios::binary | std::ios::trunc);

@@ -34,9 +34,12 @@ std::vector<fs::path> found_by(std::string_view name) {
   const fs::path written = native(name);
   const std::string last = text_of(written.filename());
   if (has_wildcard(last)) return found_by_pattern(resolve(text_of(written.parent_path())), last);
-  const fs::path found = resolve(name);
-  if (name.empty() || !is_there(found)) return {};
-  return {found};
+  const fs::path exact = resolve(name);
+  std::vector<fs::path> found = namesakes(name);
+  // The one that the name means comes first.
+  if (const auto meant = std::find(found.begin(), found.end(), exact); meant != found.end())
+    std::rotate(found.begin(), meant, meant + 1);
+  return found;
 }
 
 void move_to_another_volume(const fs::path& source, const fs::path& target) {
@@ -44,6 +47,21 @@ void move_to_another_volume(const fs::path& source, const fs::path& target) {
   std::error_code error;
   fs::remove(source, error);
   if (error) throw Fault(75, text_of(source));
+}
+
+void replace_on_another_volume(const fs::path& source, const fs::path& target) {
+  fs::path beside = target;
+  beside += unfinished_ending;
+  copy_bytes(source, beside);
+  std::error_code error;
+  try {
+    flush_to_disk(beside);
+    fs::rename(beside, target);
+  } catch (const std::exception&) {
+    fs::remove(beside, error);
+    throw Fault(75, text_of(target));
+  }
+  fs::remove(source, error);
 }
 
 }  // namespace
@@ -70,54 +88,57 @@ void Files::Kill(std::string_view pattern) const {
 
 void Files::FileCopy(std::string_view from, std::string_view to) const {
   const fs::path source = resolve(from);
-  const fs::path older = resolve(to);
+  const std::vector<fs::path> older = namesakes(to);
   const fs::path target = exactly_named(to);
   if (!is_there(source)) throw missing_fault(source, from);
   if (!has_directory(target)) throw Fault(76, std::string(to));
-  if (is_same_file(source, older) || is_held(source)) throw Fault(70, std::string(from));
-  if (is_held(older)) throw Fault(70, std::string(to));
+  const auto is_source = [&source](const fs::path& path) { return is_same_file(source, path); };
+  if (std::any_of(older.begin(), older.end(), is_source) || is_held(source))
+    throw Fault(70, std::string(from));
+  if (is_any_held(older)) throw Fault(70, std::string(to));
   if (!is_plain_file(source)) throw Fault(75, std::string(from));
-  if (is_there(older) && !is_plain_file(older)) throw Fault(75, std::string(to));
+  if (!std::all_of(older.begin(), older.end(), is_plain_file)) throw Fault(75, std::string(to));
   copy_bytes(source, target);
-  remove_namesake(older, target);
+  remove_namesakes(older, target);
 }
 
 void Files::Name(std::string_view from, std::string_view to) const {
   const fs::path source = resolve(from);
   const fs::path target = exactly_named(to);
+  const std::vector<fs::path> older = namesakes(from);
   if (!is_there(source)) throw missing_fault(source, from);
   if (!has_directory(target)) throw Fault(76, std::string(to));
-  if (is_held(source)) throw Fault(55, std::string(from));
+  if (is_any_held(older)) throw Fault(55, std::string(from));
   if (is_there(resolve(to))) throw Fault(58, std::string(to));
   std::error_code error;
   fs::rename(source, target, error);
-  if (error == std::errc::cross_device_link && is_plain_file(source))
-    return move_to_another_volume(source, target);
-  if (error) throw Fault(75, std::string(from));
+  if (error == std::errc::cross_device_link && is_plain_file(source)) {
+    move_to_another_volume(source, target);
+  } else if (error) {
+    throw Fault(75, std::string(from));
+  }
+  remove_namesakes(older, target);
 }
 
 void Files::Replace(std::string_view from, std::string_view to) const {
   const fs::path source = resolve(from);
-  const fs::path older = resolve(to);
   const fs::path target = exactly_named(to);
+  const std::vector<fs::path> older = namesakes(to);
   if (!is_there(source)) throw missing_fault(source, from);
   if (!has_directory(target)) throw Fault(76, std::string(to));
   if (is_held(source)) throw Fault(55, std::string(from));
-  if (is_held(older)) throw Fault(55, std::string(to));
-  if (is_a_directory(older)) throw Fault(58, std::string(to));
+  if (is_any_held(older)) throw Fault(55, std::string(to));
+  if (std::any_of(older.begin(), older.end(), is_a_directory)) throw Fault(58, std::string(to));
+  if (!std::all_of(older.begin(), older.end(), is_plain_file)) throw Fault(75, std::string(to));
   flush_to_disk(source);
   std::error_code error;
   fs::rename(source, target, error);
   if (error == std::errc::cross_device_link) {
-    const fs::path beside = exactly_named(std::string(to).append(unfinished_ending));
-    copy_bytes(source, beside);
-    flush_to_disk(beside);
-    fs::rename(beside, target, error);
-    std::error_code left_over;
-    fs::remove(error ? beside : source, left_over);
+    replace_on_another_volume(source, target);
+  } else if (error) {
+    throw Fault(75, std::string(to));
   }
-  if (error) throw Fault(75, std::string(to));
-  remove_namesake(older, target);
+  remove_namesakes(older, target);
   flush_names(target.parent_path());
 }
 
@@ -138,6 +159,10 @@ std::string Files::current_directory() const {
   const fs::path directory = fs::current_path(error);
   if (error) throw Fault(76);
   return text_of(directory);
+}
+
+bool Files::is_any_held(const std::vector<fs::path>& paths) const {
+  return std::any_of(paths.begin(), paths.end(), [this](const fs::path& path) { return is_held(path); });
 }
 
 bool Files::is_held(const fs::path& path) const {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "runtime/files/input_value.h"
 
@@ -18,7 +19,8 @@ inline constexpr std::string_view unfinished_ending = ".part";
 
 /// The file operations of one program and the numbered files that it holds open. Names are UTF-8, are
 /// separated by "/" or "\" and are found without regard to case (see `resolve`); a file that is made bears
-/// exactly the name given, and an older one whose name differs only in case gives way.
+/// exactly the name given, and older ones whose names differ only in case give way: to every operation here
+/// they are one file.
 /// Whatever fails is a `Fault` that bears the name given; no other exception comes out.
 /// Only the current directory is the process's; all else belongs to the object.
 class Files {
@@ -36,14 +38,14 @@ class Files {
   /// directories are asked for.
   std::string Dir(std::string_view name, int attributes = 0) const;
 
-  /// Deletes the files, never directories, that a name or pattern finds. Fault 53 when it finds none, 76
+  /// Deletes all files, never directories, that a name or pattern finds. Fault 53 when it finds none, 76
   /// when its directory is missing, 55 for a file that the program holds open, 75 for one that cannot go.
   void Kill(std::string_view pattern) const;
 
   /// Copies a file over another or to a new name; the copy can be written to even when its source cannot.
   /// Fault 53 without a source, 76 without one of the directories, 70 for a copy onto itself and when the
-  /// program holds either file open, 75 when one cannot be opened, 61 for a full disk, 57 for any other
-  /// failure on the way. No cut file is left behind.
+  /// program holds either file open, 75 when one is no plain file or cannot be opened, 61 for a full disk, 57
+  /// for any other failure on the way. No cut file is left behind.
   void FileCopy(std::string_view from, std::string_view to) const;
 
   /// Gives a file or directory another name; a file may go to another volume by it, at the cost and with the
@@ -66,7 +68,8 @@ class Files {
 
   /// Opens a file under a number from 1 to 511 (else Fault 52) and keeps it open until `close`. Bytes pass
   /// as they are. Fault 55 when the number is open, or the file is under another number (only reading twice
-  /// is allowed) or elsewhere; 76 without the directory, 53 without the file to read, 75 when refused.
+  /// is allowed) or elsewhere; 76 without the directory, 53 without the file to read, 75 when refused, for
+  /// what is no plain file and is to be read, and for a pipe.
   void open_for_output(int number, std::string_view name) { open(number, name, Mode::Output); }
   void open_for_append(int number, std::string_view name) { open(number, name, Mode::Append); }
   void open_for_input(int number, std::string_view name) { open(number, name, Mode::Input); }
@@ -112,8 +115,9 @@ class Files {
 
   void open(int number, std::string_view name, Mode mode);
   OpenFile& open_file(int number);
-  void expect_no_bar(const std::filesystem::path& found, std::string_view name, Mode mode) const;
+  void expect_no_bar(const std::vector<std::filesystem::path>& meant, std::string_view name, Mode mode) const;
   bool is_held(const std::filesystem::path& path) const;
+  bool is_any_held(const std::vector<std::filesystem::path>& paths) const;
   bool bars_opening(const std::filesystem::path& path, Mode mode) const;
 
   std::map<int, OpenFile> open_files_;

@@ -9,6 +9,8 @@ namespace runtime::files {
 namespace {
 
 constexpr int end_mark = 0x1A;
+// What a program leaves may be of any size, and no sentence is longer.
+constexpr std::size_t longest_value = 4096;
 constexpr std::string_view blanks = " \t";
 
 bool at_end(std::istream& stream) {
@@ -27,7 +29,8 @@ void skip_blanks(std::istream& stream) {
 
 std::string taken_up_to(std::istream& stream, std::string_view ends) {
   std::string taken;
-  while (!at_end(stream) && !at_any_of(stream, ends)) taken += static_cast<char>(stream.get());
+  while (taken.size() < longest_value && !at_end(stream) && !at_any_of(stream, ends))
+    taken += static_cast<char>(stream.get());
   return taken;
 }
 

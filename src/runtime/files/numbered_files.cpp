@@ -21,6 +21,11 @@ Fault refused(const fs::path& path, std::string_view name) {
   return Fault(75, std::string(name));
 }
 
+// The opening of a pipe waits for its other end. A device may be written to.
+bool may_be_opened(const fs::path& path, bool is_read) {
+  return is_read ? is_plain_file(path) : !is_a_directory(path) && !is_pipe(path);
+}
+
 }  // namespace
 
 void Files::open(int number, std::string_view name, Mode mode) {
@@ -28,8 +33,8 @@ void Files::open(int number, std::string_view name, Mode mode) {
   const std::string given(name);
   if (is_open(number)) throw Fault(55, given);
   const fs::path found = resolve(name);
-  if (mode == Mode::Input && !is_there(found)) throw missing_fault(found, name);
-  expect_no_bar(found, name, mode);
+  const std::vector<fs::path> meant = mode == Mode::Output ? namesakes(name) : std::vector{found};
+  expect_no_bar(meant, name, mode);
 
   const fs::path path = mode == Mode::Output ? exactly_named(name) : found;
   const auto how = mode == Mode::Input    ? std::ios::in
@@ -38,19 +43,25 @@ void Files::open(int number, std::string_view name, Mode mode) {
   errno = 0;
   std::fstream stream(path, how | std::ios::binary | (mode == Mode::Input ? std::ios::in : std::ios::out));
   if (!stream) throw refused(path, name);
-  remove_namesake(found, path);
+  remove_namesakes(meant, path);
   std::error_code error;
-  open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)});
+  const auto entry =
+      open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)}).first;
+  text::name_stream(entry->second.stream, entry->second.name);
 }
 
 void Files::expect_place_for_output(std::string_view name) const {
-  expect_no_bar(resolve(name), name, Mode::Output);
+  expect_no_bar(namesakes(name), name, Mode::Output);
   if (!has_directory(exactly_named(name))) throw Fault(76, std::string(name));
 }
 
-void Files::expect_no_bar(const fs::path& found, std::string_view name, Mode mode) const {
-  if (bars_opening(found, mode)) throw Fault(55, std::string(name));
-  if (is_a_directory(found)) throw Fault(75, std::string(name));
+void Files::expect_no_bar(const std::vector<fs::path>& meant, std::string_view name, Mode mode) const {
+  for (const fs::path& file : meant)
+    if (bars_opening(file, mode)) throw Fault(55, std::string(name));
+  for (const fs::path& file : meant) {
+    if (mode == Mode::Input && !is_there(file)) throw missing_fault(file, name);
+    if (!may_be_opened(file, mode == Mode::Input)) throw Fault(75, std::string(name));
+  }
 }
 
 int Files::free_number() const {

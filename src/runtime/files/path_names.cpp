@@ -15,18 +15,25 @@ char lower(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-// The entry of `directory` that `name` means, or `name` itself when there is none.
-fs::path entry_named(const fs::path& directory, const fs::path& name) {
-  if (name.empty() || is_there(directory / name)) return name;
+// The entries of `directory` that `name` can mean, in byte order.
+std::vector<fs::path> entries_named(const fs::path& directory, const fs::path& name) {
   const std::string wanted = text_of(name);
-  std::optional<std::string> best;
+  std::vector<fs::path> found;
   std::error_code error;
   fs::directory_iterator entry(directory.empty() ? fs::path(".") : directory, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    std::string found = text_of(entry->path().filename());
-    if (equal_but_for_case(found, wanted) && (!best || found < *best)) best = std::move(found);
+    fs::path known = entry->path().filename();
+    if (equal_but_for_case(text_of(known), wanted)) found.push_back(std::move(known));
   }
-  return best ? native(*best) : name;
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+// The entry of `directory` that `name` means, or `name` itself when there is none.
+fs::path entry_named(const fs::path& directory, const fs::path& name) {
+  if (name.empty() || is_there(directory / name)) return name;
+  const auto found = entries_named(directory, name);
+  return found.empty() ? name : found.front();
 }
 
 }  // namespace
@@ -45,6 +52,15 @@ std::string text_of(const fs::path& path) {
 fs::path resolve(std::string_view name) {
   fs::path found;
   for (const fs::path& component : native(name)) found /= entry_named(found, component);
+  return found;
+}
+
+std::vector<fs::path> namesakes(std::string_view name) {
+  const fs::path exact = exactly_named(name);
+  std::vector<fs::path> found = entries_named(exact.parent_path(), exact.filename());
+  for (fs::path& entry : found) entry = exact.parent_path() / entry;
+  // A directory may be entered and not be listed; and dots and a trailing separator name none of its entries.
+  if (found.empty() && is_there(exact)) found.push_back(exact);
   return found;
 }
 

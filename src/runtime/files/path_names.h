@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace runtime::files {
 
@@ -19,6 +20,10 @@ std::string text_of(const std::filesystem::path& path);
 /// is not found on, the name stays as given. A relative name is looked for from the current directory and
 /// stays relative.
 std::filesystem::path resolve(std::string_view name);
+
+/// Every path that a name finds by its last component: they are one file to a file system that does not tell
+/// the cases of A to Z apart. In byte order; empty when there is none.
+std::vector<std::filesystem::path> namesakes(std::string_view name);
 
 /// The path of a file that is to bear exactly the name given, in the directory that `resolve` finds.
 std::filesystem::path exactly_named(std::string_view name);

@@ -16,6 +16,11 @@ bool is_plain_file(const fs::path& path) {
   return fs::is_regular_file(path, error);
 }
 
+bool is_pipe(const fs::path& path) {
+  std::error_code error;
+  return fs::is_fifo(path, error);
+}
+
 bool is_a_directory(const fs::path& path) {
   std::error_code error;
   return fs::is_directory(path, error);
@@ -34,9 +39,13 @@ Fault missing_fault(const fs::path& path, std::string_view name) {
   return Fault(has_directory(path) ? 53 : 76, std::string(name));
 }
 
-void remove_namesake(const fs::path& older, const fs::path& made) {
-  std::error_code error;
-  if (older != made) fs::remove(older, error);
+void remove_namesakes(const std::vector<fs::path>& older, const fs::path& made) {
+  for (const fs::path& namesake : older) {
+    // Where the file system knows no case, the one that was made is found under the older name, too.
+    if (namesake == made || is_same_file(namesake, made) || is_a_directory(namesake)) continue;
+    std::error_code error;
+    fs::remove(namesake, error);
+  }
 }
 
 }  // namespace runtime::files

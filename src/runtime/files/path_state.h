@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "runtime/fault.h"
 
@@ -13,6 +14,7 @@ namespace runtime::files {
 bool is_there(const std::filesystem::path& path);
 
 bool is_plain_file(const std::filesystem::path& path);
+bool is_pipe(const std::filesystem::path& path);
 bool is_a_directory(const std::filesystem::path& path);
 bool is_same_file(const std::filesystem::path& one, const std::filesystem::path& other);
 
@@ -22,7 +24,7 @@ bool has_directory(const std::filesystem::path& path);
 /// The fault for a file that is not there: 76 when its directory is not there either, else 53.
 Fault missing_fault(const std::filesystem::path& path, std::string_view name);
 
-/// Lets the older file of another case give way to the one that was just made.
-void remove_namesake(const std::filesystem::path& older, const std::filesystem::path& made);
+/// Lets the older files of other cases give way to the one that was just made or moved away.
+void remove_namesakes(const std::vector<std::filesystem::path>& older, const std::filesystem::path& made);
 
 }  // namespace runtime::files

@@ -44,14 +44,15 @@ std::optional<fs::path> find_in(const std::vector<fs::path>& directories, const 
 
 #ifndef _WIN32
 // A wine with 64 bits only ends a 32-bit program at once and calls that a success. One that runs them has
-// the libraries for it in one of these places below the directory that it is installed in.
+// its library for them in one of these places below the directory that it is installed in; the directory of
+// that library alone comes with the other wine, too.
 bool runs_32_bits(const fs::path& wine) {
   static constexpr std::array places{"lib/wine", "lib32/wine", "lib/i386-linux-gnu/wine",
                                      "lib/x86_64-linux-gnu/wine"};
   std::error_code error;
   const fs::path installation = fs::canonical(wine, error).parent_path().parent_path();
   return std::any_of(places.begin(), places.end(), [&](const char* place) {
-    return fs::is_directory(installation / place / "i386-windows", error);
+    return fs::is_regular_file(installation / place / "i386-windows" / "ntdll.dll", error);
   });
 }
 #endif
@@ -71,7 +72,8 @@ Command command_for(const fs::path& file) {
   const ProgramKind kind = kind_of_program(file);
   if (kind == ProgramKind::Native) return {file};
   const auto wine = find_in(directories_on_path(), "wine");
-  if (!wine || kind == ProgramKind::OtherWindows) return {};
+  if (!wine) return {file};  // the system may know another way to run it, and says so when it doesn't
+  if (kind == ProgramKind::OtherWindows) return {};
   if (kind == ProgramKind::Windows32 && !runs_32_bits(*wine)) return {};
   return {*wine, file};
 #endif

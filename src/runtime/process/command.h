@@ -16,7 +16,8 @@ using Command = std::vector<std::filesystem::path>;
 std::optional<std::filesystem::path> find_program(const std::string& program,
                                                   const std::filesystem::path& application_directory);
 
-/// What runs the program in `file`: itself, or wine with it as argument; empty when nothing here can.
+/// What runs the program in `file`: itself, or wine with it as argument; empty when the wine that there is
+/// can't. Without a wine a Windows program is left to the system, too.
 Command command_for(const std::filesystem::path& file);
 
 }  // namespace runtime::process

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <future>
 #include <string>
 #include <vector>
@@ -14,6 +15,24 @@
 namespace runtime::process {
 
 namespace {
+
+/// Whoever started this program may have it ignore the ends of its children, and then their exit codes are
+/// lost. While this lives they are kept, and a program that is started meanwhile can ask for those of its
+/// own.
+class KeptExitCodes {
+ public:
+  KeptExitCodes() {
+    struct sigaction standard {};
+    standard.sa_handler = SIG_DFL;
+    sigaction(SIGCHLD, &standard, &before_);
+  }
+  KeptExitCodes(const KeptExitCodes&) = delete;
+  KeptExitCodes& operator=(const KeptExitCodes&) = delete;
+  ~KeptExitCodes() { sigaction(SIGCHLD, &before_, nullptr); }
+
+ private:
+  struct sigaction before_ {};
+};
 
 int exit_code_of(pid_t process) {
   int status = 0;
@@ -30,6 +49,7 @@ int launch_and_wait(const Command& command, const std::function<void()>& while_w
   std::vector<char*> arguments(words.size() + 1, nullptr);
   std::transform(words.begin(), words.end(), arguments.begin(),
                  [](std::string& word) { return word.data(); });
+  const KeptExitCodes kept;
   pid_t process = 0;
   // Not posix_spawnp, which goes through a shell for a file without a header.
   if (posix_spawn(&process, arguments.front(), nullptr, nullptr, arguments.data(), environ) != 0)

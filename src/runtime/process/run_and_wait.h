@@ -12,8 +12,8 @@ namespace runtime::process {
 ///
 /// `program` is a bare name in UTF-8. It is looked for in `application_directory`, in the current directory
 /// and along the PATH, without regard to case; the first file of that name counts. A 64-bit Windows program
-/// is handed to the `wine` on the PATH where the system does not run it by itself, a 32-bit one only to a
-/// wine that can run it.
+/// is handed to the `wine` on the PATH, a 32-bit one only to a wine that can run it; where there is no wine
+/// the system may run either by itself.
 ///
 /// The exit code is what the platform passes on (8 bits outside Windows); a program that a signal ended
 /// gives 128 and the signal's number. -1 means that nothing could be started: no such file, no right to run

@@ -32,6 +32,11 @@ long& told_mark(std::ostream& stream) {
   return stream.iword(index);
 }
 
+void*& name_place(std::ostream& stream) {
+  static const int index = std::ios_base::xalloc();
+  return stream.pword(index);
+}
+
 }  // namespace
 
 PrintItem::PrintItem(const Value& value) : content_(std::visit(ContentOf{}, value)) {}
@@ -51,10 +56,16 @@ void print_line(std::ostream& stream, std::initializer_list<PrintItem> items) {
   expect_written(stream);
 }
 
+void name_stream(std::ostream& stream, std::string& name) {
+  name_place(stream) = &name;
+}
+
 void expect_written(std::ostream& stream, const std::string& name) {
   if (stream.good()) return;
   told_mark(stream) = 1;
-  throw Fault(errno == ENOSPC ? 61 : 57, name);
+  const int error = errno;
+  const auto* const known = static_cast<const std::string*>(name_place(stream));
+  throw Fault(error == ENOSPC ? 61 : 57, name.empty() && known != nullptr ? *known : name);
 }
 
 bool failure_was_told(std::ostream& stream) {

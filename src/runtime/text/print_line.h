@@ -43,9 +43,12 @@ class PrintItem {
 /// Columns count bytes. A stream that could not take the line is a Fault as `expect_written` tells it.
 void print_line(std::ostream& stream, std::initializer_list<PrintItem> items);
 
+/// Lets what is told of `stream` bear the name of its file. `name` is kept by its place, not copied.
+void name_stream(std::ostream& stream, std::string& name);
+
 /// Fault 61 when a write to `stream` failed for a full disk, 57 when it failed for anything else; `name` is
-/// the file's, for its words. Whoever writes to a numbered file by other means than `print_line` calls this
-/// behind the last write.
+/// the file's, for its words, where `name_stream` has not told it. Whoever writes to a numbered file by other
+/// means than `print_line` calls this behind the last write.
 void expect_written(std::ostream& stream, const std::string& name = {});
 
 /// Whether `expect_written` has told of this stream's failure: closing it need not tell again.

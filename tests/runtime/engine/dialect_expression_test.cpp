@@ -162,6 +162,36 @@ TEST_F(Expression, as_a_condition_holds_for_any_number_but_zero) {
   EXPECT_FALSE(holds("[Unit Cost]"));
 }
 
+TEST_F(Expression, keeps_a_whole_number_that_is_too_large_for_a_fraction) {
+  const std::string largest = "9223372036854775807";
+  for (const char* function : {"Int", "Fix", "Abs", "Round"})
+    EXPECT_EQ(value_of(std::string(function) + "(" + largest + ")"), largest + " whole") << function;
+  EXPECT_EQ(value_of("Round(" + largest + ", 2)"), largest + " whole");
+  EXPECT_EQ(value_of("Int(9223372036854775808)"), "9223372036854775808");
+  EXPECT_EQ(value_of("Fix(1E300)"), "1e+300");
+}
+
+TEST_F(Expression, of_tests_or_powers_in_a_row_goes_from_left_to_right) {
+  EXPECT_EQ(value_of("zone = 7 = -1 = 0"), "0 whole");
+  EXPECT_EQ(value_of("2 ^ 3 ^ 2"), "64");
+  EXPECT_EQ(value_of("2 ^ -1 ^ 2"), "0.25");
+  std::string powers = "2";
+  for (int i = 0; i < 100; ++i) powers += " ^ 1";
+  EXPECT_EQ(value_of(powers), "2");
+}
+
+// Each step of a chain that held all steps before it would take minutes.
+TEST_F(Expression, of_a_chain_without_end_is_refused_and_takes_no_time) {
+  for (const std::string link : {"=1", "<>zone", " Like 'a'", " Between 1 And 2", " In (1)", " Is Null"}) {
+    std::string chain = "zone";
+    for (int i = 0; i < 1'000'000; ++i) chain += link;
+    EXPECT_EQ(value_of(chain), "fault 3360") << link;
+  }
+  std::string chain = "2";
+  for (int i = 0; i < 100'000; ++i) chain += "^1";
+  EXPECT_EQ(value_of(chain), "refused: too many arguments on function q_calc");
+}
+
 TEST_F(Expression, may_be_long) {
   std::string sum = "1";
   std::string choice = "zone = 1";

@@ -261,6 +261,31 @@ TEST_F(Editing, shows_what_was_set_until_it_is_cancelled) {
   EXPECT_EQ(rows.field("sigma"), Value(11.27));
 }
 
+TEST_F(Editing, that_could_not_be_stored_is_dropped) {
+  ask("CREATE TRIGGER no_change BEFORE UPDATE ON Commuter BEGIN SELECT raise(abort, 'no'); END");
+  auto rows = database.OpenRecordset("Commuter");
+  rows.Edit();
+  rows.set("sigma", 99.0);
+  EXPECT_EQ(fault_of([&] { rows.Update(); }), 3421);
+  EXPECT_EQ(rows.field("sigma"), Value(11.27));
+  EXPECT_EQ(fault_of([&] { rows.Update(); }), 3020);
+}
+
+TEST_F(Editing, that_was_taken_back_is_read_again) {
+  auto rows = database.OpenRecordset("Commuter");
+  rows.MoveNext();
+  workspace.BeginTrans();
+  rows.Edit();
+  rows.set("sigma", 99.0);
+  rows.Update();
+  workspace.Rollback();
+  rows.ReadAgain();
+  EXPECT_EQ(rows.field("sigma"), Value(11.35));
+  EXPECT_EQ(rest_of(rows), "1 11.35 120.64 Transport|7 13.05 125.2 Sales|");
+  rows.ReadAgain();
+  EXPECT_TRUE(rows.eof());
+}
+
 TEST_F(Editing, without_having_begun_faults) {
   auto rows = database.OpenRecordset("Commuter");
   EXPECT_EQ(fault_of([&] { rows.set("sigma", 1.0); }), 3020);

@@ -38,7 +38,18 @@ TEST(ResultCodes, of_a_statement_carry_the_name_at_fault) {
             "3346 The number of values does not match the number of fields");
   EXPECT_EQ(told(SQLITE_ERROR, "too many arguments on function q_calc"),
             "3360 The expression is too complex");
-  EXPECT_EQ(told(SQLITE_ERROR, "something else"), "3075 Syntax error in expression: something else");
+  EXPECT_EQ(told(SQLITE_ERROR, "parser stack overflow"), "3360 The expression is too complex");
+  EXPECT_EQ(told(SQLITE_ERROR, "Expression tree is too large (maximum depth 1000)"),
+            "3360 The expression is too complex");
+}
+
+TEST(ResultCodes, of_the_programs_own_statements_are_no_syntax_error_of_the_analyst) {
+  EXPECT_EQ(told(SQLITE_ERROR, "cannot change out of wal mode from within a transaction"),
+            "51 Internal error: cannot change out of wal mode from within a transaction");
+}
+
+TEST(ResultCodes, of_what_an_analyst_may_not_touch_are_told_as_an_error_of_the_expression) {
+  EXPECT_EQ(told(SQLITE_AUTH, "not authorized"), "3075 Syntax error in expression: not authorized");
 }
 
 TEST(ResultCodes, of_a_value_in_the_wrong_field_are_told_so) {

@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <fstream>
 #include <iterator>
 
@@ -147,6 +149,26 @@ TEST_F(TextLink, without_a_file_or_its_description_is_told_when_it_is_used) {
   EXPECT_EQ(poured("a integer"), "3625 No schema.ini describes the text file 'trips.csv'");
   put("schema.ini", "[trips.csv]\nCOL1=a Integer\n");
   EXPECT_EQ(poured("a integer").substr(0, 4), "3011");
+}
+
+// A pipe without a writer: who opens it waits for ever.
+TEST_F(TextLink, reads_and_appends_to_plain_files_only) {
+  const std::string columns = "Origin integer, Destination integer, Mining DOUBLE";
+  for (const std::string name : {"schema.ini", "trips.csv"}) {
+    const std::string path = (directory / name).string();
+    EXPECT_EQ(read(pairs_to_read, "1,2,0.5\r\n"), "1 2 0.5|");
+    std::filesystem::remove(path);
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    EXPECT_EQ(fault_of([&] { database.Execute("insert into csvtable select * from sosec"); }), 75) << name;
+    EXPECT_EQ(poured(columns), "75 Path/File access error: " + path);
+    std::filesystem::remove(path);
+    std::filesystem::create_symlink("/dev/zero", path);
+    EXPECT_EQ(poured(columns), "75 Path/File access error: " + path);
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    EXPECT_EQ(poured(columns), "75 Path/File access error: " + path);
+    std::filesystem::remove(path);
+  }
 }
 
 TEST_F(TextLink, needs_a_directory_and_a_free_name) {

@@ -68,11 +68,11 @@ TEST_F(Handler, keeps_its_writes_for_the_next_end_when_another_program_is_readin
 
 TEST_F(Handler, before_a_program_makes_durable_what_no_level_guards) {
   write(1);
-  workspace.before_program();
+  workspace.make_durable();
   EXPECT_EQ(durable(), "1.0");
   workspace.BeginTrans();
   write(2);
-  workspace.before_program();
+  workspace.make_durable();
   EXPECT_EQ(durable(), "1.0");
   workspace.Rollback();
   EXPECT_EQ(seen(), "1");
@@ -81,7 +81,7 @@ TEST_F(Handler, before_a_program_makes_durable_what_no_level_guards) {
 TEST_F(Handler, before_a_program_makes_durable_what_was_written_before_a_level_began) {
   write(1);
   workspace.BeginTrans();
-  workspace.before_program();
+  workspace.make_durable();
   EXPECT_EQ(durable(), "1.0");
   write(2);
   workspace.Rollback();
@@ -92,7 +92,7 @@ TEST_F(Handler, before_a_program_is_not_held_back_by_an_old_level) {
   workspace.BeginTrans();
   workspace.handler_ended();
   write(2);
-  workspace.before_program();
+  workspace.make_durable();
   EXPECT_EQ(durable(), "2.0");
 }
 

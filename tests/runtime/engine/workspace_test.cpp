@@ -56,6 +56,22 @@ TEST_F(OpenDatabase, finds_a_bare_name_in_the_current_directory) {
   fs::current_path(before);
 }
 
+TEST_F(OpenDatabase, takes_a_file_that_another_tool_has_set_to_a_log_back_to_one_file) {
+  ASSERT_EQ(ask("PRAGMA journal_mode=WAL"), "wal");
+  auto database = workspace.OpenDatabase(file.string());
+  database.Execute("UPDATE Commuter set sigma = 4");
+  workspace.handler_ended();
+  EXPECT_EQ(ask("PRAGMA journal_mode"), "delete");
+  EXPECT_EQ(ask("SELECT sum(sigma) FROM Commuter"), "12.0");
+}
+
+TEST_F(OpenDatabase, tells_a_log_that_another_program_holds_as_a_file_in_use) {
+  ASSERT_EQ(ask("PRAGMA journal_mode=WAL"), "wal");
+  const auto reader = testing::hold_for_reading(file);
+  workspace.lock_wait = std::chrono::milliseconds(1);
+  EXPECT_EQ(fault_of_opening(file), 3260);
+}
+
 TEST_F(OpenDatabase, refuses_an_empty_file) {
   std::ofstream(directory / "empty.mdb").close();
   EXPECT_EQ(fault_of_opening(directory / "empty.mdb"), 3343);
@@ -121,6 +137,51 @@ TEST_F(OpenFile, is_held_with_its_journal_until_the_last_handle_goes) {
   EXPECT_TRUE(workspace.holds(file));
   second.Close();
   EXPECT_FALSE(workspace.holds(file));
+}
+
+TEST_F(OpenFile, by_its_bare_name_stays_where_it_is_when_the_directory_changes) {
+  workspace.resolve_name = [](std::string_view name) { return fs::path(name); };
+  const auto before = fs::current_path();
+  fs::current_path(directory);
+  auto database = workspace.OpenDatabase("zelmor.mdb");
+  fs::create_directory("truck");
+  fs::copy_file("zelmor.mdb", "truck/zelmor.mdb");
+  fs::current_path("truck");
+  EXPECT_TRUE(workspace.holds(file));
+  EXPECT_TRUE(workspace.holds("../zelmor.mdb-journal"));
+  EXPECT_FALSE(workspace.holds("zelmor.mdb"));
+  fs::current_path(before);
+}
+
+TEST_F(OpenFile, waits_for_another_program_once_in_a_handler) {
+  Workspace other;
+  auto holder = other.OpenDatabase(file.string());
+  holder.Execute("UPDATE Commuter set sigma = 1");
+  std::string told;
+  workspace.waiting = [&told](bool is_waiting) { told += is_waiting ? "waits " : "is over "; };
+  workspace.lock_wait = std::chrono::milliseconds(40);
+  auto database = workspace.OpenDatabase(file.string());
+  for (int i = 0; i < 3; ++i)
+    EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set sigma = 2"); }), 3260);
+  EXPECT_EQ(told, "waits is over ");
+  workspace.handler_ended();
+  EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set sigma = 2"); }), 3260);
+  EXPECT_EQ(told, "waits is over waits is over ");
+  other.handler_ended();
+}
+
+// The other program lets go while it is waited for.
+TEST_F(OpenFile, goes_on_when_another_program_lets_go) {
+  Workspace other;
+  auto holder = other.OpenDatabase(file.string());
+  holder.Execute("UPDATE Commuter set sigma = 1");
+  workspace.waiting = [&other](bool is_waiting) {
+    if (is_waiting) other.handler_ended();
+  };
+  auto database = workspace.OpenDatabase(file.string());
+  EXPECT_EQ(fault_of([&] { database.Execute("UPDATE Commuter set wage = 2"); }), 0);
+  workspace.handler_ended();
+  EXPECT_EQ(ask("SELECT sum(sigma + wage) FROM Commuter"), "9.0");
 }
 
 TEST_F(OpenFile, is_held_while_writes_wait) {

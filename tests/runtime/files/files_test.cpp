@@ -5,6 +5,7 @@
 
 #include "faults.h"
 #include "ordinary_user.h"
+#include "runtime/files/copy_bytes.h"
 #include "runtime/text/print_line.h"
 #include "small_disk.h"
 #include "temporary_directory.h"
@@ -80,13 +81,11 @@ TEST_F(Kill, deletes_what_a_pattern_finds_and_nothing_else) {
   EXPECT_EQ(names_in("commuter"), "asig.txt var.txt");
 }
 
-TEST_F(Kill, of_a_plain_name_deletes_one_file) {
-  put("Err.txt", "");
-  put("err.txt", "");
-  files.Kill("err.txt");
-  EXPECT_EQ(names_in("."), "Err.txt");
-  files.Kill("err.txt");
-  EXPECT_EQ(names_in("."), "");
+TEST_F(Kill, of_a_plain_name_deletes_all_that_are_equal_but_for_case) {
+  for (const char* name : {"CCPAR.TXT", "ccpar.txt", "Ccpar.Txt", "ccpar2.txt"}) put(name, "");
+  std::filesystem::create_directory("CCPAR.txt");
+  files.Kill("ccpar.TXT");
+  EXPECT_EQ(names_in("."), "CCPAR.txt ccpar2.txt");
 }
 
 TEST_F(Kill, leaves_directories) {
@@ -149,6 +148,34 @@ TEST_F(FileCopy, lets_an_older_file_of_another_case_give_way) {
   files.FileCopy("new.txt", "Dist.txt");
   EXPECT_EQ(names_in("."), "Dist.txt new.txt");
   EXPECT_EQ(bytes_of("Dist.txt"), "new");
+}
+
+TEST_F(FileCopy, takes_the_place_of_all_that_are_equal_but_for_case) {
+  put("new.txt", "new");
+  for (const char* name : {"DIST.TXT", "Dist.txt", "dist.txt"}) put(name, "older and longer");
+  files.FileCopy("new.txt", "Dist.txt");
+  EXPECT_EQ(names_in("."), "Dist.txt new.txt");
+  EXPECT_EQ(bytes_of("Dist.txt"), "new");
+}
+
+TEST_F(FileCopy, between_names_that_are_equal_but_for_case_is_refused) {
+  put("DIST.TXT", "one");
+  put("dist.txt", "other");
+  EXPECT_EQ(fault_of([this] { files.FileCopy("DIST.TXT", "dist.txt"); }), 70);
+  EXPECT_EQ(bytes_of("DIST.TXT") + bytes_of("dist.txt"), "oneother");
+}
+
+// A pipe without a writer: who opens it waits for ever.
+TEST_F(FileCopy, takes_plain_files_only) {
+  put("there.txt", "there");
+  ASSERT_EQ(mkfifo("pipe.txt", 0600), 0);
+  std::filesystem::create_symlink("/dev/zero", "endless.txt");
+  for (const char* name : {"pipe.txt", "endless.txt", "/dev/null"}) {
+    EXPECT_EQ(fault_of([&] { files.FileCopy(name, "new.txt"); }), 75) << name;
+    EXPECT_EQ(fault_of([&] { files.FileCopy("there.txt", name); }), 75) << name;
+    EXPECT_EQ(fault_of([&] { copy_bytes(name, "new.txt"); }), 75) << name;
+  }
+  EXPECT_EQ(names_in("."), "endless.txt pipe.txt there.txt");
 }
 
 TEST_F(FileCopy, onto_itself_is_refused_and_cuts_nothing) {
@@ -232,6 +259,14 @@ TEST_F(Rename, gives_a_file_exactly_its_new_name) {
   files.Name("ccpar2.txt", ".\\ccpar.txt");
   EXPECT_EQ(names_in("."), "ccpar.txt");
   EXPECT_EQ(bytes_of("ccpar.txt"), "1");
+}
+
+TEST_F(Rename, leaves_none_of_those_that_are_equal_but_for_case) {
+  put("CCPAR2.txt", "older");
+  put("ccpar2.txt", "meant");
+  files.Name("ccpar2.txt", "ccpar.txt");
+  EXPECT_EQ(names_in("."), "ccpar.txt");
+  EXPECT_EQ(bytes_of("ccpar.txt"), "meant");
 }
 
 TEST_F(Rename, tells_what_is_missing) {

@@ -36,6 +36,14 @@ TEST(InputValue, skips_leading_blanks) {
   EXPECT_EQ(verdict_in("\t1\n   text"), "[1][text]");
 }
 
+TEST(InputValue, ends_after_4096_bytes) {
+  const std::string most(4096, 'x');
+  EXPECT_EQ(verdict_in("1," + most), "[1][" + most + "]");
+  EXPECT_EQ(verdict_in("1," + most + "yz"), "[1][" + most + "]");
+  EXPECT_EQ(verdict_in("1,\"" + most + "yz\""), "[1][" + most + "]");
+  EXPECT_EQ(verdict_in(most + "1,text"), "[" + most + "][1]");
+}
+
 TEST(InputValue, takes_one_delimiter_with_blanks_around_it) {
   EXPECT_EQ(verdict_in("1 ,text"), "[1][text]");
   EXPECT_EQ(verdict_in("1, text"), "[1][text]");

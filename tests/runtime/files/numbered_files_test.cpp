@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "faults.h"
 #include "ordinary_user.h"
@@ -135,6 +136,37 @@ TEST_F(NumberedFiles, tell_why_they_cannot_be_opened) {
   EXPECT_EQ(names_in("."), "Truck");
 }
 
+// A pipe without a writer: who opens it waits for ever.
+TEST_F(NumberedFiles, read_plain_files_only) {
+  ASSERT_EQ(mkfifo("pipe.txt", 0600), 0);
+  std::filesystem::create_symlink("pipe.txt", "to_pipe.txt");
+  std::filesystem::create_symlink("/dev/zero", "endless.txt");
+  for (const char* name : {"pipe.txt", "to_pipe.txt", "endless.txt", "/dev/zero"})
+    EXPECT_EQ(fault_of([&] { files.open_for_input(1, name); }), 75) << name;
+  EXPECT_EQ(fault_of([this] { files.open_for_output(1, "pipe.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.open_for_append(1, "pipe.txt"); }), 75);
+  EXPECT_FALSE(files.is_open(1));
+  EXPECT_EQ(names_in("."), "endless.txt pipe.txt to_pipe.txt");
+}
+
+TEST_F(NumberedFiles, take_the_place_of_all_that_are_equal_but_for_case) {
+  for (const char* name : {"OUTPAR.TXT", "Outpar.txt", "outpar.txt"}) put(name, "older");
+  files.open_for_output(1, "outpar.txt");
+  files.Close(1);
+  EXPECT_EQ(names_in("."), "outpar.txt");
+}
+
+TEST_F(NumberedFiles, take_no_place_where_one_that_is_equal_but_for_case_is_in_use) {
+  put("ERR.TXT", "older");
+  files.open_for_input(1, "ERR.TXT");
+  put("err.txt", "newer");
+  EXPECT_EQ(fault_of([this] { files.open_for_output(2, "err.txt"); }), 55);
+  EXPECT_EQ(bytes_of("ERR.TXT") + bytes_of("err.txt"), "oldernewer");
+  std::filesystem::create_directory("Truck");
+  put("truck", "");
+  EXPECT_EQ(fault_of([this] { files.open_for_output(2, "truck"); }), 75);
+}
+
 TEST_F(NumberedFiles, tell_of_missing_rights) {
   const OrdinaryUser user;
   ASSERT_TRUE(user);
@@ -183,6 +215,18 @@ TEST_F(NumberedFiles, fault_at_the_line_that_finds_the_disk_full_and_close_quiet
   const std::string long_text(100000, 'x');
   EXPECT_EQ(fault_of([&] { text::print_line(files.out(1), {long_text}); }), 61);
   EXPECT_EQ(fault_of([this] { files.Close(1); }), 0);
+}
+
+TEST_F(NumberedFiles, name_the_file_that_did_not_fit_on_the_disk) {
+  std::filesystem::create_symlink("/dev/full", "trips.csv");
+  files.open_for_output(1, "trips.csv");
+  const std::string long_text(100000, 'x');
+  try {
+    text::print_line(files.out(1), {long_text});
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_STREQ(fault.what(), "Disk full: trips.csv");
+  }
 }
 
 TEST_F(NumberedFiles, fault_at_the_close_when_nobody_told_of_a_failed_write) {

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "runtime/process/command.h"
 #include "temporary_directory.h"
 
 namespace runtime::process {
@@ -184,10 +185,41 @@ TEST_F(RunAndWait, lets_an_exception_through_once_the_program_has_ended) {
   EXPECT_EQ(bytes_of("done.txt"), "yes");
 }
 
-TEST_F(RunAndWait, starts_no_windows_program_without_wine) {
-  put(application / "CC.EXE", windows_program(machine_64));
-  allow_running(application / "CC.EXE");
-  EXPECT_EQ(run("CC.EXE"), -1);
+// Whoever starts this program may have told it to ignore the ends of children, and that outlives the start.
+class ChildrenIgnored {
+ public:
+  ChildrenIgnored() : before_(std::signal(SIGCHLD, SIG_IGN)) {}
+  ChildrenIgnored(const ChildrenIgnored&) = delete;
+  ChildrenIgnored& operator=(const ChildrenIgnored&) = delete;
+  ~ChildrenIgnored() { std::signal(SIGCHLD, before_); }
+
+ private:
+  void (*before_)(int);
+};
+
+TEST_F(RunAndWait, gives_the_exit_code_where_the_ends_of_children_are_ignored) {
+  install(application / "CC.EXE");
+  const ChildrenIgnored ignored;
+  for (const int code : {0, 5}) {
+    tell("exit " + std::to_string(code) + "\n");
+    EXPECT_EQ(run("CC.EXE"), code);
+    EXPECT_EQ(run_and_wait("CC.EXE", application, [] {}), code);
+  }
+  EXPECT_EQ(std::signal(SIGCHLD, SIG_IGN), SIG_IGN) << "it is not as it was before";
+}
+
+TEST_F(RunAndWait, lets_a_program_ask_for_the_exit_codes_of_its_own) {
+  install_script(application / "CC.EXE", "#!/bin/sh\ntrap 'echo told > told.txt' CHLD\n/bin/true\nexit 0\n");
+  const ChildrenIgnored ignored;
+  EXPECT_EQ(run("CC.EXE"), 0);
+  EXPECT_EQ(bytes_of("told.txt"), "told\n");
+}
+
+TEST_F(RunAndWait, leaves_a_windows_program_to_the_system_without_wine) {
+  for (const std::string& machine : {machine_32, machine_64, std::string("\x64\xAA", 2)}) {
+    put(application / "CC.EXE", windows_program(machine));
+    EXPECT_EQ(command_for(application / "CC.EXE"), Command{application / "CC.EXE"});
+  }
 }
 
 TEST_F(RunAndWait, hands_a_64_bit_windows_program_to_wine) {
@@ -202,7 +234,11 @@ TEST_F(RunAndWait, starts_a_32_bit_windows_program_only_where_wine_can_run_it) {
   put(application / "CC.EXE", windows_program(machine_32));
   EXPECT_EQ(run("CC.EXE"), -1);
   EXPECT_EQ(bytes_of("wine.txt"), "(none)");
-  std::filesystem::create_directories(root.path() / "wine/lib/wine/i386-windows");
+  const path library = root.path() / "wine/lib/wine/i386-windows";
+  std::filesystem::create_directories(library);
+  put(library / "README", "");
+  EXPECT_EQ(run("CC.EXE"), -1) << "the directory alone comes with a wine for 64 bits, too";
+  put(library / "ntdll.dll", "");
   EXPECT_EQ(run("CC.EXE"), 7);
 }
 

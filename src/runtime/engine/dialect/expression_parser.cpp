@@ -108,7 +108,11 @@ ExpressionParser::Piece ExpressionParser::negation() {
 
 ExpressionParser::Piece ExpressionParser::comparison() {
   Piece left = operation(0);
-  while (auto result = test(left)) left = std::move(*result);
+  // Each test stands in brackets within the next one.
+  for (int tests = 1; auto result = test(left); ++tests) {
+    if (tests > deepest_nesting) throw Fault(3360);
+    left = std::move(*result);
+  }
   return left;
 }
 
@@ -198,14 +202,18 @@ ExpressionParser::Piece ExpressionParser::negated(const Piece& operand) {
 }
 
 ExpressionParser::Piece ExpressionParser::power() {
-  Piece result = primary();
+  Piece first = primary();
+  if (!tokens_.is_symbol("^")) return first;
+  std::string codes;
+  std::string operands = as_value(std::move(first)).sql;
   while (tokens_.take_symbol("^")) {
     const bool negative = tokens_.take_symbol("-");
     Piece exponent = as_value(primary());
     if (negative) exponent = negated(exponent);
-    result = {"q_calc('^', " + as_value(std::move(result)).sql + ", " + exponent.sql + ")", Kind::Number};
+    operands += ", " + exponent.sql;
+    codes += '^';
   }
-  return result;
+  return {"q_calc(" + quoted_text(codes) + ", " + operands + ")", Kind::Number};
 }
 
 ExpressionParser::Piece ExpressionParser::primary() {

@@ -25,9 +25,9 @@ Value unless_null(const Arguments& arguments) {
   return function(arguments);
 }
 
-Value whole_or_number(double number, const Value& from) {
-  if (std::holds_alternative<std::int64_t>(from)) return static_cast<std::int64_t>(number);
-  return number;
+// Has nothing to round, and not every one of them is to be had as a fraction, too.
+bool is_whole(const Value& value) {
+  return std::holds_alternative<std::int64_t>(value);
 }
 
 Value calc(const Arguments& arguments) {
@@ -47,15 +47,20 @@ Value like(const Arguments& arguments) {
 }
 
 Value absolute(const Arguments& arguments) {
-  return whole_or_number(std::fabs(as_number(arguments[0])), arguments[0]);
+  const auto* const whole = std::get_if<std::int64_t>(&arguments[0]);
+  if (whole == nullptr) return std::fabs(as_number(arguments[0]));
+  if (*whole == std::numeric_limits<std::int64_t>::min()) throw Fault(6);
+  return *whole < 0 ? -*whole : *whole;
 }
 
 Value round_down(const Arguments& arguments) {
-  return whole_or_number(std::floor(as_number(arguments[0])), arguments[0]);
+  if (is_whole(arguments[0])) return arguments[0];
+  return std::floor(as_number(arguments[0]));
 }
 
 Value cut(const Arguments& arguments) {
-  return whole_or_number(std::trunc(as_number(arguments[0])), arguments[0]);
+  if (is_whole(arguments[0])) return arguments[0];
+  return std::trunc(as_number(arguments[0]));
 }
 
 Value sign(const Arguments& arguments) {
@@ -69,11 +74,12 @@ Value square_root(const Arguments& arguments) {
 
 Value rounded(const Arguments& arguments) {
   const auto places = arguments.size() == 2 ? as_whole(arguments[1], 0, 22) : 0;
+  if (is_whole(arguments[0])) return arguments[0];
   const double scale = std::pow(10.0, static_cast<double>(places));
   const double scaled = as_number(arguments[0]) * scale;
   // What is beyond the digits of a fraction has nothing to round.
   if (!std::isfinite(scaled)) return arguments[0];
-  return whole_or_number(std::nearbyint(scaled) / scale, arguments[0]);
+  return std::nearbyint(scaled) / scale;
 }
 
 Value to_double(const Arguments& arguments) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "runtime/engine/table_shape.h"
+#include "runtime/files/plain_file.h"
 
 namespace runtime::engine {
 
@@ -49,9 +50,11 @@ std::optional<FieldKind> kind_of(std::string_view word) {
 class DescriptionReader {
  public:
   DescriptionReader(const std::filesystem::path& file, std::string_view section)
-      : file_(file), section_(section), stream_(file, std::ios::binary) {}
+      : file_(file), section_(section) {}
 
   TextLayout read() {
+    files::expect_plain_file(file_);
+    stream_.open(file_, std::ios::binary);
     std::string line;
     while (std::getline(stream_, line)) {
       ++line_;

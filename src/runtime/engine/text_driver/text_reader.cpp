@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "runtime/engine/dialect/number_text.h"
+#include "runtime/files/plain_file.h"
 
 namespace runtime::engine {
 
@@ -29,6 +30,7 @@ std::string_view without_blanks(std::string_view field) {
 
 TextReader::TextReader(std::filesystem::path file, const TextLayout& layout)
     : file_(std::move(file)), layout_(layout), buffer_(buffer_size), cells_(layout.columns.size()) {
+  files::expect_plain_file(file_);
   stream_.rdbuf()->pubsetbuf(nullptr, 0);
   stream_.open(file_, std::ios::binary);
   std::error_code error;

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "runtime/files/plain_file.h"
 #include "runtime/text/numbers.h"
 #include "runtime/text/print_line.h"
 
@@ -56,6 +57,7 @@ bool append_in_width(std::string& line, double number, std::size_t width) {
 }
 
 TextWriter::TextWriter(fs::path file, const TextLayout& layout) : file_(std::move(file)), layout_(layout) {
+  files::expect_plain_file(file_);
   std::error_code error;
   size_before_ = fs::file_size(file_, error);
   if (error) throw Fault(3011, file_.string());
