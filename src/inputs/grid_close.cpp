@@ -49,7 +49,8 @@ void end_employment_pass(Program& program, Database& db) {
 }
 
 void keep_population(Program& program, Database& db) {
-  runtime::ignoring_faults([&] { db.Execute("DROP TABLE POPULATION"); });
+  constexpr int not_there = 3078;
+  runtime::ignoring_fault(not_there, [&] { db.Execute("DROP TABLE POPULATION"); });
   db.Execute("CREATE TABLE population (Zone integer" + column_list(program) + ")");
   db.Execute("insert into population select * from sosec ");
   auto occupations = db.OpenRecordset(chosen_occupations);

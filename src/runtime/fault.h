@@ -30,6 +30,16 @@ struct ErrObject {
   void set(const Fault& fault) { *this = {fault.number, fault.what()}; }
 };
 
+/// Runs one statement and passes over a fault of this number, and of no other.
+template <typename Statement>
+void ignoring_fault(int number, Statement&& statement) {
+  try {
+    statement();
+  } catch (const Fault& fault) {
+    if (fault.number != number) throw;
+  }
+}
+
 /// Runs one statement and passes over its fault, as a stretch in which faults are ignored does.
 template <typename Statement>
 void ignoring_faults(Statement&& statement) {

@@ -122,6 +122,10 @@ picks: 2, output
 menus: spec_CuCo spec_comm
 )");
   program_does("write Err.txt 0\\r\\n\n");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(),
+              ElementsAre("RuntimeError: Run-time error '3024':\n\nThe project database was not found: " +
+                          in_app("truck/zelmor.mdb") + " [stop sign, OK]"));
   analyst.click("Command3");
   make_ready();
   press_and_answer({"Yes", "OK"});

@@ -1,4 +1,8 @@
 // How a model program can end, and what its verdict file may hold.
+#include <sys/stat.h>
+
+#include <functional>
+
 #include "commercial_page.h"
 
 namespace {
@@ -120,6 +124,32 @@ TEST_F(CommercialVerdict, is_still_open_while_it_is_told_and_nothing_is_cleaned_
   press_and_answer({"Yes", "OK"});
   EXPECT_TRUE(open);
   EXPECT_TRUE(inputs);
+}
+
+TEST_F(CommercialVerdict, of_any_length_shows_its_beginning) {
+  app.put_file("truck/Err.txt", "1, " + std::string(1'000'000, 'x'));
+  program_does("exit 0\n");
+  verdict();
+  const std::string words = "error occured in program execution!";
+  EXPECT_EQ(analyst.last_box().text, words + std::string(1000 - words.size(), 'x'));
+  EXPECT_THAT(analyst.last_box().buttons, UnorderedElementsAre("OK", "Show Details..."));
+}
+
+// A pipe without a writer would be waited for, and a device without an end never be read to it.
+TEST_F(CommercialVerdict, that_is_no_plain_file_is_a_run_time_error) {
+  program_does("exit 0\n");
+  const fs::path file = app.file("truck/Err.txt");
+  const std::vector<std::function<void()>> kinds{[&] { ASSERT_EQ(mkfifo(file.c_str(), 0600), 0); },
+                                                 [&] { fs::create_symlink("/dev/zero", file); },
+                                                 [&] { fs::create_directory(file); }};
+  for (const auto& make : kinds) {
+    make();
+    EXPECT_EQ(verdict(),
+              "RuntimeError: Run-time error '75':\n\nPath/File access error: Err.txt [stop sign, OK]");
+    EXPECT_FALSE(program.desktop.files.is_open(1));
+    analyst.click("Command3");
+    fs::remove(file);
+  }
 }
 
 // An empty file, and a failure without words, are run-time errors; the file stays open until the page is

@@ -1,4 +1,8 @@
 // The verdict file: what each program leaves in it decides whether the run goes on.
+#include <sys/stat.h>
+
+#include <functional>
+
 #include "chain_test.h"
 
 namespace {
@@ -132,6 +136,32 @@ TEST_F(CommuterVerdict, that_was_missing_is_forgotten_at_the_next_press) {
   app.put_file("commuter/stand_in.txt", "write err.txt 0\n");
   run();
   EXPECT_THAT(shown(), ElementsAre(summary_of_sales, completed));
+}
+
+// A pipe without a writer would be waited for, and a device without an end never be read to it.
+TEST_F(CommuterVerdict, that_is_no_plain_file_breaks_off_without_a_word) {
+  app.put_file("commuter/stand_in.txt", "exit 0\n");
+  const std::filesystem::path file = app.file("commuter/err.txt");
+  make_ready();
+  const std::vector<std::function<void()>> kinds{[&] { ASSERT_EQ(mkfifo(file.c_str(), 0600), 0); },
+                                                 [&] { std::filesystem::create_symlink("/dev/zero", file); },
+                                                 [&] { std::filesystem::create_directory(file); }};
+  for (const auto& make : kinds) {
+    make();
+    press_and_answer({"Yes"});
+    EXPECT_THAT(shown(), ElementsAre(summary_of_sales));
+    EXPECT_TRUE(analyst.can_use("Command11"));
+    std::filesystem::remove(file);
+  }
+}
+
+TEST_F(CommuterVerdict, of_any_length_shows_its_beginning) {
+  app.put_file("commuter/err.txt", "1, " + std::string(1'000'000, 'x'));
+  app.put_file("commuter/stand_in.txt", "exit 0\n");
+  make_ready();
+  run();
+  const std::string words = "error occured in program execution! ";
+  EXPECT_EQ(analyst.last_box().text, words + std::string(1000 - words.size(), 'x'));
 }
 
 TEST_F(CommuterVerdict, that_is_empty_breaks_off_without_a_word) {

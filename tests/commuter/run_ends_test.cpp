@@ -151,6 +151,16 @@ menus: spec_CuCo spec_comm
 )");
 }
 
+TEST_F(CommuterEnds, a_district_file_that_was_not_named_leaves_the_heads_of_the_parameter_files) {
+  make_ready();
+  analyst.click("Check1");
+  press_and_answer({"OK"});
+  by_code([this] { program.desktop.files.Close(3); });
+  EXPECT_EQ(app.bytes("commuter/outpar.txt"), in_app("results/sales") + "\r\n 24 \r\n");
+  EXPECT_EQ(app.bytes("commuter/ccpar.txt"), " 24 \r\nDB\r\n0\r\n");
+  EXPECT_EQ(app.bytes("commuter/ccpar2.txt"), " 24 \r\nDB\r\n1\r\n");
+}
+
 TEST_F(CommuterEnds, a_district_file_that_is_gone_is_told_by_its_path) {
   make_ready_with_districts();
   std::filesystem::remove(app.file("sample/districts.txt"));
@@ -233,6 +243,11 @@ menus: Inputs Run spec_timdist spec_comm
 )");
   EXPECT_EQ(model_files().at("popemp7.txt"), std::string("= ") + sales);
   EXPECT_FALSE(model_files().contains("popemp0.txt"));
+  by_code([this] { program.desktop.files.Close(3); });
+  EXPECT_EQ(app.bytes("commuter/outpar.txt"),
+            in_app("results/sales") + "\r\n 24 \r\n0             0\r\n 2 \r\n7\r\n");
+  EXPECT_EQ(app.bytes("commuter/ccpar.txt"), " 24 \r\nDB\r\n0\r\n 2 \r\n7\r\n");
+  EXPECT_EQ(app.bytes("commuter/ccpar2.txt"), " 24 \r\nDB\r\n1\r\n 2 \r\n7\r\n");
   EXPECT_EQ(program.form3.PickPath(1) + program.form3.PickPath(2) + program.form3.PickCode(1), "");
 }
 

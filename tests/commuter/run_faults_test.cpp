@@ -95,6 +95,44 @@ menus: spec_CuCo spec_comm
 )");
 }
 
+TEST_F(CommuterFaults, more_zones_than_a_16_bit_number_holds) {
+  make_ready();
+  by_code([this] { program.form2.unload_without_storing(); });
+  app.sql("UPDATE zones SET numzones = 40000");
+  expect_silent_retry_until([&] {
+    by_code([this] { program.form2.unload_without_storing(); });
+    app.sql("UPDATE zones SET numzones = 24");
+  });
+}
+
+// There are places for thirteen.
+TEST_F(CommuterFaults, a_fourteenth_pick) {
+  make_ready();
+  by_code([this] {
+    for (int i = 2; i <= 13; ++i) {
+      program.form3.PickCode(i) = "7";
+      program.form3.PickPath(i) = in_app(sales);
+    }
+    program.form3.PickCount = 14;
+  });
+  press();
+  EXPECT_THAT(shown(), IsEmpty());
+  EXPECT_EQ(program.form3.PickCount, 14);
+  EXPECT_TRUE(analyst.can_use("Command11"));
+  EXPECT_FALSE(fs::exists(app.file("commuter/outpar.txt")));
+}
+
+// The road up to the question reads, and writes nothing to the database.
+TEST_F(CommuterFaults, a_database_that_another_program_writes_to_is_no_reason_to_stop) {
+  make_ready();
+  runtime::engine::Workspace other;
+  auto holder = other.OpenDatabase(in_app("zelmor.mdb"));
+  holder.Execute("UPDATE zones SET numdstrct = 0");
+  press_and_answer({"No"});
+  EXPECT_THAT(shown(), ElementsAre(summary_of_sales));
+  other.handler_ended();
+}
+
 TEST_F(CommuterFaults, a_time_file_that_is_a_copy_onto_itself) {
   app.put_file("commuter/Dist.txt", "kept");
   app.sql("UPDATE timdist SET distance = 'commuter/Dist.txt'");

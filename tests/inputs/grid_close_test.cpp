@@ -55,6 +55,25 @@ TEST_F(GridClose, keeps_the_grid_and_the_edit_of_a_text_that_its_column_cannot_t
   EXPECT_THAT(sosec("WHERE distance NOTNULL"), IsEmpty());
 }
 
+// The other program lets go as soon as it was given up, so that the statements behind the first get through.
+TEST_F(GridClose, of_the_population_ends_where_it_meets_the_lock_of_another_program) {
+  program.desktop.workspace.lock_wait = std::chrono::milliseconds(1);
+  app.sql("CREATE TABLE IF NOT EXISTS population (Zone INTEGER) STRICT");
+  open_population(1, {7});
+  runtime::engine::Workspace other;
+  auto holder = other.OpenDatabase(app.file("zelmor.mdb").string());
+  holder.Execute("UPDATE zones SET numdstrct = 0");
+  program.desktop.workspace.waiting = [&](bool is_waiting) {
+    if (!is_waiting) other.handler_ended();
+  };
+  analyst.will_press("OK");
+  press_on_grid("cmdClose");
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3260':"));
+  EXPECT_FALSE(program.frmDataGrid.EmploymentPass);
+  press_on_grid("cmdClose");
+  EXPECT_TRUE(program.frmDataGrid.EmploymentPass);
+}
+
 TEST_F(GridClose, leaves_empty_distances_and_times_empty) {
   open_times(2);
   press_on_grid("cmdClose");

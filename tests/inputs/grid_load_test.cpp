@@ -199,6 +199,25 @@ TEST_F(GridLoad, without_the_project_database_ends_in_a_report) {
   EXPECT_EQ(app.bytes("zelmor.mdb"), "(none)");
 }
 
+// The other program lets go as soon as it was given up, so that the statements behind the first get through.
+TEST_F(GridLoad, ends_where_it_meets_the_lock_of_another_program) {
+  program.desktop.workspace.lock_wait = std::chrono::milliseconds(1);
+  open_times(1);
+  press_on_grid("Cmdquit");
+  runtime::engine::Workspace other;
+  auto holder = other.OpenDatabase(app.file("zelmor.mdb").string());
+  holder.Execute("UPDATE zones SET numdstrct = 0");
+  program.desktop.workspace.waiting = [&](bool is_waiting) {
+    if (!is_waiting) other.handler_ended();
+  };
+  analyst.will_press("OK");
+  show_grid_with("timdist");
+  EXPECT_THAT(last_box(), ::testing::StartsWith("Run-time error '3260':"));
+  EXPECT_FALSE(program.frmDataGrid.loaded());
+  show_grid_with("timdist");
+  EXPECT_TRUE(program.frmDataGrid.visible());
+}
+
 TEST_F(GridLoad, writes_the_word_of_the_pass_in_red_on_grey) {
   open_population(1, {7});
   const QPalette& colours = program.frmDataGrid->Label1.widget()->palette();

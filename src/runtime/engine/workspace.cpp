@@ -54,7 +54,7 @@ Database Workspace::OpenDatabase(std::string_view name) {
   std::error_code ignored;
   // The current directory changes while the file is open; its temporary files must not.
   const fs::path file = fs::absolute(resolve_name(name), ignored);
-  if (!fs::exists(file, ignored)) throw Fault(3024, std::string(name));
+  if (!fs::exists(file, ignored)) throw Fault(3024, file.string());
 
   auto connection = open_.lock();
   if (connection && !same_file(connection->file(), file)) throw Fault(75, file.string());

@@ -34,12 +34,24 @@ QString with_line_feeds(const std::string& prompt) {
   return text.replace(u'\r', u'\n');
 }
 
+/// A text from outside may be of any length, and its box's buttons must stay on the screen.
+void set_text(QMessageBox& box, QString text) {
+  constexpr qsizetype most_characters = 1000;
+  text.replace(QChar(QChar::LineSeparator), QLatin1Char(' '));
+  text.replace(QChar(QChar::ParagraphSeparator), QLatin1Char(' '));
+  if (text.size() <= most_characters) return box.setText(text);
+  const bool would_part_a_pair = text[most_characters - 1].isHighSurrogate();
+  const qsizetype end = would_part_a_pair ? most_characters - 1 : most_characters;
+  box.setText(text.left(end));
+  box.setDetailedText(text.mid(end));
+}
+
 int exec(QWidget* parent, const char* name, const QString& text, int style, const std::string& title) {
   QMessageBox box(parent);
   box.setObjectName(QString::fromLatin1(name));
   box.setWindowTitle(qt(title));
   box.setTextFormat(Qt::PlainText);  // a path with "<" in it is no markup
-  box.setText(text);
+  set_text(box, text);
   box.setIcon(icon_of(style));
   const bool asks = (style & buttons_mask) == yes_no;
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No

@@ -1,4 +1,5 @@
-// The modal boxes. Their object names are relied on by tests and assistive tools.
+// The modal boxes. Their object names are relied on by tests and assistive tools. One shows at most 1,000
+// characters; what a longer text has behind them comes up with "Show Details...".
 #pragma once
 
 #include <string>

@@ -2,7 +2,9 @@
 
 #include <QFrame>
 #include <algorithm>
+#include <utility>
 
+#include "runtime/fault.h"
 #include "runtime/forms/data_grid.h"
 #include "runtime/forms/desktop.h"
 
@@ -43,11 +45,31 @@ void DataControl::post() {
       std::any_of(boxes_.begin(), boxes_.end(), [](const auto& row) { return row.box->changed; });
   if (!any_changed || !has_record()) return;
   recordset_.Edit();
+  try {
+    store_changed();
+  } catch (...) {
+    ignoring_faults([this] { recordset_.CancelUpdate(); });
+    throw;
+  }
+}
+
+void DataControl::store_changed() {
   for (const BoundField& row : boxes_) {
     if (row.box->changed) recordset_.set(row.field, row.box->held_value());
   }
   recordset_.Update();
-  for (const BoundField& row : boxes_) row.box->changed = false;
+  for (const BoundField& row : boxes_) {
+    if (row.box->changed) stored_.push_back(row.box);
+    row.box->changed = false;
+  }
+}
+
+void DataControl::writes_ended(bool kept) {
+  const auto stored = std::exchange(stored_, {});
+  if (kept || !recordset_.is_set()) return;
+  for (Bound* box : stored) box->changed = true;
+  ignoring_faults([this] { recordset_.ReadAgain(); });
+  for (DBGrid* grid : grids_) grid->Refresh();
 }
 
 std::function<void()> DataControl::edit_keeper() const {

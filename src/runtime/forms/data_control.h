@@ -41,6 +41,9 @@ class DataControl : public Control {
   void post();
   /// Counts as not stored yet, once more, what did so when it was called: for a storing that did not last.
   std::function<void()> edit_keeper() const;
+  /// What it stored in the handler that has ended was kept, or taken back. Then its record and grids are as
+  /// the table is, and the boxes hold what they would still store.
+  void writes_ended(bool kept);
   /// Stores the edits of its grids, reads the table anew and puts the stored values back into the boxes. One
   /// that was handed its recordset keeps it as it is.
   void Refresh();
@@ -75,12 +78,14 @@ class DataControl : public Control {
   bool has_record() const;
   void post_grids();
   void fill();
+  void store_changed();
 
   std::string table_;
   engine::Database database_;
   engine::Recordset recordset_;
   std::vector<BoundField> boxes_;
   std::vector<DBGrid*> grids_;
+  std::vector<Bound*> stored_;  // by the handler under way
 };
 
 }  // namespace runtime::forms

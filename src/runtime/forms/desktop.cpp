@@ -1,11 +1,13 @@
 #include "runtime/forms/desktop.h"
 
 #include <QApplication>
+#include <QMdiArea>
 #include <new>
 #include <utility>
 
 #include "runtime/files/path_names.h"
 #include "runtime/forms/boxes.h"
+#include "runtime/forms/form.h"
 #include "runtime/forms/rest.h"
 #include "runtime/forms/status_line.h"
 #include "runtime/process/run_and_wait.h"
@@ -33,6 +35,7 @@ std::optional<Fault> fault_of(const std::function<void()>& handler) {
 
 Desktop::Desktop(std::string application_directory) : app_path(std::move(application_directory)) {
   workspace.resolve_name = [](std::string_view name) { return files::resolve(name); };
+  workspace.waiting = [this](bool is_waiting) { tell_of_wait(is_waiting); };
   files.held_elsewhere = [this](const std::filesystem::path& path) { return workspace.holds(path); };
 }
 
@@ -86,7 +89,26 @@ void Desktop::end_program(int exit_code) {
 
 void Desktop::end_of_handler() {
   err.clear();
-  workspace.handler_ended();
+  const auto tell_forms = [this](bool kept) {
+    for (FormBase* form : loaded_forms) form->writes_ended(kept);
+  };
+  try {
+    workspace.handler_ended();
+  } catch (const Fault&) {
+    tell_forms(false);
+    throw;
+  }
+  tell_forms(true);
+}
+
+void Desktop::tell_of_wait(bool is_waiting) {
+  if (!is_waiting) return set_status_line(main_window, words_before_wait_);
+  words_before_wait_ = status_line(main_window);
+  set_status_line(main_window, "Waiting for another program that uses the project database");
+  // The line alone: a grid that is painted would ask the very database that is waited for.
+  if (mdi_area != nullptr) mdi_area->setUpdatesEnabled(false);
+  paint_status_line(main_window);
+  if (mdi_area != nullptr) mdi_area->setUpdatesEnabled(true);
 }
 
 void Desktop::report(const Fault& fault) {

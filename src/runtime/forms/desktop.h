@@ -63,7 +63,8 @@ class Desktop {
   void set_pointer(Pointer pointer);
 
   /// The edge of every handler: a fault that no trap took ends in the run-time error report, and when the
-  /// outermost handler ends, what was written is made durable. Does nothing while resting().
+  /// outermost handler ends, what was written is made durable; when that faults, too, both are told. Does
+  /// nothing while resting().
   void run_event(const std::function<void()>& handler);
   /// The same for what a person sets off. Drops it, too, while a box waits for its answer: a press that an
   /// assistive tool makes, or a menu outside the window, passes by the box. Takes the remark away.
@@ -98,9 +99,11 @@ class Desktop {
  private:
   void report(const Fault& fault);
   void end_of_handler();
+  void tell_of_wait(bool is_waiting);
 
   int depth_ = 0;
   int rests_ = 0;
+  std::string words_before_wait_;
   int reports_ = 0;
   std::string remark_;
   std::optional<int> exit_code_;  // once the program is to end

@@ -101,6 +101,12 @@ void FormBase::store() {
   }
 }
 
+void FormBase::writes_ended(bool kept) {
+  for (Control* control : controls_->all()) {
+    if (auto* data = dynamic_cast<DataControl*>(control)) data->writes_ended(kept);
+  }
+}
+
 void FormBase::Show() {
   reference();
   // The analyst may have minimised it, too.

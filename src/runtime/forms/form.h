@@ -55,6 +55,8 @@ class FormBase {
   void store();
   /// As Unload(), but the form goes only when what it stored is durable; else it holds it as before.
   void unload_for_good();
+  /// The writes of the handler that has ended were kept, or taken back: then it shows what is stored.
+  void writes_ended(bool kept);
   /// Removes the form and drops what its boxes hold.
   void unload_without_storing();
   void set_window_state(WindowState state);

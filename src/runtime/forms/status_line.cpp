@@ -27,4 +27,8 @@ void set_status_line(QWidget* main_window, const std::string& words) {
   line->setAccessibleName(qt(words));
 }
 
+void paint_status_line(QWidget* main_window) {
+  if (QLabel* line = line_of(main_window)) line->repaint();
+}
+
 }  // namespace runtime::forms

@@ -14,5 +14,7 @@ inline constexpr const char* status_line_name = "StatusLine";
 std::string status_line(const QWidget* main_window);
 /// Says something else from here on, to assistive tools, too. Does nothing without a window.
 void set_status_line(QWidget* main_window, const std::string& words);
+/// Paints it at once, for work that lets nothing else be painted.
+void paint_status_line(QWidget* main_window);
 
 }  // namespace runtime::forms

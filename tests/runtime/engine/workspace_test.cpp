@@ -44,6 +44,20 @@ TEST_F(OpenDatabase, never_makes_a_file) {
   EXPECT_FALSE(fs::exists(directory / "other.mdb"));
 }
 
+TEST_F(OpenDatabase, tells_where_it_has_looked_for_a_bare_name) {
+  const auto before = fs::current_path();
+  fs::create_directory(directory / "truck");
+  fs::current_path(directory / "truck");
+  const std::string place = (fs::current_path() / "zelmor.mdb").string();
+  try {
+    workspace.OpenDatabase("zelmor.mdb");
+    ADD_FAILURE();
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.what(), "The project database was not found: " + place);
+  }
+  fs::current_path(before);
+}
+
 TEST_F(OpenDatabase, finds_a_name_as_it_was_told_to) {
   workspace.resolve_name = [this](std::string_view name) { return directory / name; };
   EXPECT_TRUE(workspace.OpenDatabase("zelmor.mdb").is_set());

@@ -73,6 +73,43 @@ TEST_F(Boxes, show_markup_as_plain_text) {
   EXPECT_EQ(format, Qt::PlainText);
 }
 
+TEST_F(Boxes, show_a_thousand_characters_and_the_rest_behind_a_button) {
+  std::string words;
+  for (int i = 0; i < 4000; ++i) words += std::to_string(i % 10) + "\xE2\x80\xA8word ";
+  std::string shown;
+  std::string rest;
+  int height = 0;
+  analyst.when_box_shows = [&](const analyst::Box&) {
+    auto* met = window.findChild<QMessageBox*>(QStringLiteral("MsgBox"));
+    shown = met->text().toStdString();
+    rest = met->detailedText().toStdString();
+    height = met->height();
+  };
+  EXPECT_EQ(([&] {
+              analyst.will_press("OK");
+              return desktop.MsgBox(words, rf::critical);
+            })(),
+            rf::reply_ok);
+  EXPECT_THAT(box().buttons, ::testing::UnorderedElementsAre("OK", "Show Details..."));
+  EXPECT_EQ(shown.size(), 1000U);
+  EXPECT_EQ(shown.substr(0, 14), "0 word 1 word ");
+  EXPECT_EQ(rest.size(), 4000U * 7 - 1000);
+  EXPECT_LT(height, 600) << "the button is off the screen";
+}
+
+TEST_F(Boxes, show_a_thousand_characters_without_another_button) {
+  analyst.will_press("OK");
+  desktop.MsgBox(std::string(1000, 'x'));
+  EXPECT_THAT(box().buttons, ElementsAre("OK"));
+  EXPECT_EQ(box().text, std::string(1000, 'x'));
+}
+
+TEST_F(Boxes, part_no_character_of_two_halves) {
+  analyst.will_press("OK");
+  desktop.MsgBox(std::string(999, 'x') + "\xF0\x9F\x9A\x9A and more");
+  EXPECT_EQ(box().text, std::string(999, 'x'));
+}
+
 TEST_F(Boxes, belong_to_the_main_window) {
   analyst.will_press("OK");
   QWidget* parent = nullptr;
@@ -110,6 +147,55 @@ TEST_F(RuntimeErrorReport, keeps_what_the_handler_had_written) {
     throw runtime::Fault(6);
   });
   EXPECT_EQ(box().text, "Run-time error '6':\n\nOverflow");
+}
+
+TEST_F(RuntimeErrorReport, tells_of_the_handler_and_of_its_writes_when_both_fault) {
+  desktop.workspace.lock_wait = std::chrono::milliseconds(1);
+  auto database = desktop.workspace.OpenDatabase("zelmor.mdb");
+  runtime::engine::Workspace other;
+  analyst.will_press("OK");
+  analyst.will_press("OK");
+  // As long as the other program reads nothing can be made durable.
+  other.OpenDatabase(app.file("zelmor.mdb").string()).OpenRecordset("zones").for_each([&](const auto&) {
+    as_handler([&] {
+      database.Execute("update zones set numzones = 9");
+      throw runtime::Fault(6);
+    });
+  });
+  EXPECT_THAT(analyst.texts(), ElementsAre("Run-time error '6':\n\nOverflow",
+                                           ::testing::StartsWith("Run-time error '3260':")));
+  as_handler([] {});
+  EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("9"));
+}
+
+// What the status line shows whenever it is painted.
+class PaintedLine : public QObject {
+ public:
+  explicit PaintedLine(QWidget& line) : line_(line) { line.installEventFilter(this); }
+  std::vector<std::string> words;
+
+ private:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) words.push_back(line_.accessibleName().toStdString());
+    return false;
+  }
+  QWidget& line_;
+};
+
+TEST_F(RuntimeErrorReport, of_a_lock_comes_after_one_wait_with_a_word_in_the_status_line) {
+  desktop.workspace.lock_wait = std::chrono::milliseconds(40);
+  auto database = desktop.workspace.OpenDatabase("zelmor.mdb");
+  runtime::engine::Workspace other;
+  auto holder = other.OpenDatabase(app.file("zelmor.mdb").string());
+  holder.Execute("update zones set numzones = 7");
+  QCoreApplication::processEvents();
+  PaintedLine line(*analyst.find("StatusLine"));
+  analyst.will_press("OK");
+  analyst.when_box_shows = [&](const analyst::Box&) { EXPECT_EQ(analyst.text_of("StatusLine"), ""); };
+  as_handler([&] { database.Execute("update zones set numzones = 9"); });
+  EXPECT_THAT(line.words, ::testing::Contains("Waiting for another program that uses the project database"));
+  EXPECT_THAT(analyst.texts(), ElementsAre(::testing::StartsWith("Run-time error '3260':")));
+  other.handler_ended();
 }
 
 TEST_F(RuntimeErrorReport, abandons_the_handler_at_the_fault) {

@@ -1,5 +1,8 @@
 #include <filesystem>
+#include <optional>
 
+#include "runtime/text/numbers.h"
+#include "small_disk.h"
 #include "small_form.h"
 
 namespace {
@@ -28,6 +31,8 @@ class BoundBoxes : public testing_aids::SmallFormTest {
   void unload(SmallForm& form) {
     as_handler([&] { form.Unload(); });
   }
+  std::optional<testing_aids::SmallDisk> small_disk;
+
   std::vector<std::string> timdist() { return app.rows("select * from timdist"); }
   std::vector<std::string> anfiles() { return app.rows("select Agfile, Minfile from Anfiles"); }
 
@@ -142,6 +147,34 @@ TEST_F(BoundBoxes, a_fault_of_the_storing_keeps_the_form_and_what_it_holds) {
     numbers.Unload();
   });
   EXPECT_THAT(app.rows("select numzones from zones"), ElementsAre("9"));
+}
+
+TEST_F(BoundBoxes, a_fault_of_the_storing_leaves_the_field_as_it_is_stored) {
+  SmallForm numbers(desktop, {data_row(0, "zones"), path_row(0, 0, "numzones"), path_row(1, 0, "numdstrct")},
+                    "Numbers");
+  app.sql("update zones set numzones = 24, numdstrct = 3");
+  numbers->Text1(0).set_text("9");
+  numbers->Text1(1).set_text("many");
+  EXPECT_EQ(fault_of([&] { numbers->Data1(0).MoveFirst(); }), 3421);
+  EXPECT_EQ(runtime::text::joined(numbers->Data1(0).field("numzones")), "24");
+}
+
+// Nothing becomes durable while another program reads, and what can't stay is taken back on a full disk.
+TEST_F(BoundBoxes, hold_what_was_taken_back_until_it_is_stored) {
+  const std::string path(100'000, 'x');
+  paths->Text1(0).set_text("new");
+  analyst.will_press("OK");
+  as_handler([&] {
+    paths->Data1(0).MoveFirst();
+    EXPECT_EQ(runtime::text::joined(paths->Data1(0).field("distance")), "new");
+    desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update timdist set base_time = '" + path + "'");
+    small_disk.emplace(std::filesystem::file_size(app.file("zelmor.mdb")));
+  });
+  small_disk.reset();
+  EXPECT_EQ(runtime::text::joined(paths->Data1(0).field("distance")), "d");
+  EXPECT_EQ(paths->Text1(0).text(), "new");
+  unload(paths);
+  EXPECT_THAT(timdist(), ElementsAre("new|b|i"));
 }
 
 TEST_F(BoundBoxes, are_dropped_by_an_unload_without_storing) {

@@ -1,5 +1,9 @@
 // When an edit goes where.
+#include <filesystem>
+#include <optional>
+
 #include "grid_test.h"
+#include "small_disk.h"
 
 namespace {
 
@@ -216,6 +220,26 @@ TEST_F(GridEdit, a_fault_of_the_storing_is_reported_and_leaves_the_edit_and_the_
   EXPECT_NE(fault_of([&] { form.Unload(); }), 0);
   EXPECT_TRUE(form.loaded());
   EXPECT_TRUE(grid().current_cell_modified());
+}
+
+TEST_F(GridEdit, a_row_that_was_taken_back_is_shown_as_it_is_stored) {
+  go_to(0, 2);
+  type("7");
+  std::optional<testing_aids::SmallDisk> disk;
+  analyst.will_press("OK");
+  as_handler([&] {
+    grid().set_current_row(1);
+    grid().Refresh();
+    EXPECT_THAT(drawn(), ::testing::HasSubstr("1 | 1 | 7 | 14.51 | a\n"));
+    const std::string long_name(100'000, 'x');
+    desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update pairs set name = '" + long_name + "'");
+    disk.emplace(std::filesystem::file_size(app.file("zelmor.mdb")));
+  });
+  disk.reset();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  EXPECT_THAT(drawn(), ::testing::HasSubstr("1 | 1 | 10 | 14.51 | a\n"));
+  EXPECT_EQ(trips(), untouched);
 }
 
 TEST_F(GridEdit, clearing_the_modified_flag_drops_what_was_typed_into_the_cell_and_only_that) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "runtime/fault.h"
 #include "runtime/forms/grid/cell_text.h"
 
 namespace runtime::forms::grid {
@@ -108,6 +109,7 @@ void Sheet::post() {
     for (const auto& [column, value] : changes_) records_->set(column, value);
     records_->Update();
   } catch (...) {
+    ignoring_faults([this] { records_->CancelUpdate(); });
     edit_ = edit;
     changes_ = changes;
     throw;
