@@ -95,7 +95,7 @@ void Files::FileCopy(std::string_view from, std::string_view to) const {
   const auto is_source = [&source](const fs::path& path) { return is_same_file(source, path); };
   if (std::any_of(older.begin(), older.end(), is_source) || is_held(source))
     throw Fault(70, std::string(from));
-  if (is_any_held(older)) throw Fault(70, std::string(to));
+  if (is_any_held(older) || is_held(target)) throw Fault(70, std::string(to));
   if (!is_plain_file(source)) throw Fault(75, std::string(from));
   if (!std::all_of(older.begin(), older.end(), is_plain_file)) throw Fault(75, std::string(to));
   copy_bytes(source, target);
@@ -127,7 +127,7 @@ void Files::Replace(std::string_view from, std::string_view to) const {
   if (!is_there(source)) throw missing_fault(source, from);
   if (!has_directory(target)) throw Fault(76, std::string(to));
   if (is_held(source)) throw Fault(55, std::string(from));
-  if (is_any_held(older)) throw Fault(55, std::string(to));
+  if (is_any_held(older) || is_held(target)) throw Fault(55, std::string(to));
   if (std::any_of(older.begin(), older.end(), is_a_directory)) throw Fault(58, std::string(to));
   if (!std::all_of(older.begin(), older.end(), is_plain_file)) throw Fault(75, std::string(to));
   flush_to_disk(source);

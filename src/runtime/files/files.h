@@ -115,7 +115,7 @@ class Files {
 
   void open(int number, std::string_view name, Mode mode);
   OpenFile& open_file(int number);
-  void expect_no_bar(const std::vector<std::filesystem::path>& meant, std::string_view name, Mode mode) const;
+  void expect_no_bar(const std::filesystem::path& found, std::string_view name, Mode mode) const;
   bool is_held(const std::filesystem::path& path) const;
   bool is_any_held(const std::vector<std::filesystem::path>& paths) const;
   bool bars_opening(const std::filesystem::path& path, Mode mode) const;

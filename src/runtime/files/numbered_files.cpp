@@ -33,8 +33,10 @@ void Files::open(int number, std::string_view name, Mode mode) {
   const std::string given(name);
   if (is_open(number)) throw Fault(55, given);
   const fs::path found = resolve(name);
-  const std::vector<fs::path> meant = mode == Mode::Output ? namesakes(name) : std::vector{found};
-  expect_no_bar(meant, name, mode);
+  const std::vector<fs::path> older = mode == Mode::Output ? namesakes(name) : std::vector<fs::path>();
+  if (mode == Mode::Input && !is_there(found)) throw missing_fault(found, name);
+  expect_no_bar(found, name, mode);
+  for (const fs::path& namesake : older) expect_no_bar(namesake, name, mode);
 
   const fs::path path = mode == Mode::Output ? exactly_named(name) : found;
   const auto how = mode == Mode::Input    ? std::ios::in
@@ -43,7 +45,7 @@ void Files::open(int number, std::string_view name, Mode mode) {
   errno = 0;
   std::fstream stream(path, how | std::ios::binary | (mode == Mode::Input ? std::ios::in : std::ios::out));
   if (!stream) throw refused(path, name);
-  remove_namesakes(meant, path);
+  remove_namesakes(older, path);
   std::error_code error;
   const auto entry =
       open_files_.emplace(number, OpenFile{given, fs::absolute(path, error), mode, std::move(stream)}).first;
@@ -51,17 +53,14 @@ void Files::open(int number, std::string_view name, Mode mode) {
 }
 
 void Files::expect_place_for_output(std::string_view name) const {
-  expect_no_bar(namesakes(name), name, Mode::Output);
+  expect_no_bar(resolve(name), name, Mode::Output);
+  for (const fs::path& namesake : namesakes(name)) expect_no_bar(namesake, name, Mode::Output);
   if (!has_directory(exactly_named(name))) throw Fault(76, std::string(name));
 }
 
-void Files::expect_no_bar(const std::vector<fs::path>& meant, std::string_view name, Mode mode) const {
-  for (const fs::path& file : meant)
-    if (bars_opening(file, mode)) throw Fault(55, std::string(name));
-  for (const fs::path& file : meant) {
-    if (mode == Mode::Input && !is_there(file)) throw missing_fault(file, name);
-    if (!may_be_opened(file, mode == Mode::Input)) throw Fault(75, std::string(name));
-  }
+void Files::expect_no_bar(const fs::path& found, std::string_view name, Mode mode) const {
+  if (bars_opening(found, mode)) throw Fault(55, std::string(name));
+  if (is_there(found) && !may_be_opened(found, mode == Mode::Input)) throw Fault(75, std::string(name));
 }
 
 int Files::free_number() const {
