@@ -56,6 +56,7 @@ void Control::set_height(int twips) {
 }
 
 void Control::set_visible(bool visible) {
+  if (visible_ && !visible) about_to_hide();
   visible_ = visible;
   widget_->setVisible(visible);
   if (visible && !lies_under()) widget_->raise();

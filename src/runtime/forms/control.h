@@ -71,6 +71,8 @@ class Control {
   virtual void created(const ControlDesign&) {}
   /// What a kind has to do whenever its widget was put in its place.
   virtual void placed() {}
+  /// What a kind has to do before its widget goes from the screen by the program's will.
+  virtual void about_to_hide() {}
   /// Labels and drawn shapes lie under everything that can be used.
   virtual bool lies_under() const { return false; }
 

@@ -149,6 +149,19 @@ std::function<void()> DBGrid::edit_keeper() {
   };
 }
 
+void DBGrid::drop_refused_text() {
+  if (!sheet().refusal()) return;
+  sheet().step_back();
+  view_->sync();
+}
+
+void DBGrid::about_to_hide() {
+  const auto refusal = sheet().refusal();
+  if (!refusal) return;
+  drop_refused_text();
+  desktop().MsgBox(refusal->words, exclamation);
+}
+
 void DBGrid::records_changed() {
   sheet().records_changed();
   view_->records_changed();
