@@ -28,8 +28,7 @@ void FormBase::reference() {
 }
 
 void FormBase::Load() {
-  reference();
-  if (!visible_) Show();
+  Show();
 }
 
 void FormBase::build() {
@@ -140,7 +139,7 @@ void FormBase::apply_window_state() {
       window_->showMinimized();
       break;
     case WindowState::maximized:
-      window_->showMaximized();
+      window_->maximize();
       break;
   }
 }
@@ -152,7 +151,7 @@ void FormBase::Refresh() {
 
 int FormBase::width() {
   reference();
-  return twips(window_->width());
+  return twips(window_->size_without_icon().width());
 }
 
 void FormBase::set_caption(const std::string& caption) {
