@@ -88,7 +88,6 @@ class DBGrid : public Control {
   /// Runs what a person set off. A text that can't be stored is told, and stays to be mended.
   void run(const std::function<void()>& action);
   void ask_for_row();
-  void go_to_row_number(std::int64_t number);
 
   QPointer<grid::GridView> view_;
 };
