@@ -62,6 +62,8 @@ class Control {
   /// It gets what the event hands over, and the control's index where that is nothing.
   void on(Event event, std::function<void(int)> handler) { handlers_[event] = std::move(handler); }
   void forget_handlers() { handlers_.clear(); }
+  /// Its form is shown, or brought to the front.
+  virtual void form_shown() {}
 
  protected:
   virtual QWidget* make_widget(QWidget* parent) = 0;

@@ -112,6 +112,7 @@ void FormBase::Show() {
     apply_window_state();
   }
   if (desktop_.mdi_area != nullptr) desktop_.mdi_area->setActiveSubWindow(window_);
+  for (Control* control : controls_->all()) control->form_shown();
 }
 
 void FormBase::hide() {
