@@ -84,6 +84,10 @@ void Control::set_tab_stop(bool tab_stop) {
   widget_->setFocusPolicy(tab_stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
+void Control::set_label(const std::string& label) {
+  widget_->setAccessibleName(qt(label));
+}
+
 void Control::fire(Event event) {
   const auto handler = handlers_.find(event);
   if (handler == handlers_.end()) return;

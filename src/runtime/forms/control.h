@@ -57,6 +57,8 @@ class Control {
   double font_size() const { return font_size_; }
   void set_font_size(double points);
   void set_tab_stop(bool tab_stop);
+  /// What assistive tools call it.
+  void set_label(const std::string& label);
 
   /// Sets the handler of an event; a control without one passes the event over.
   /// It gets what the event hands over, and the control's index where that is nothing.
