@@ -92,6 +92,7 @@ void Desktop::end_of_handler() {
 void Desktop::report(const Fault& fault) {
   ++reports_;
   show_runtime_error(main_window, fault, program_title);
+  set_pointer(Pointer::normal);  // the work that the hourglass stood for is over
 }
 
 void Desktop::end_with_report(const Fault& fault) {

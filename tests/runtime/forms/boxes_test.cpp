@@ -226,6 +226,15 @@ TEST_F(RuntimeErrorReport, the_error_object_is_empty_after_each_handler) {
   EXPECT_EQ(desktop.err.description, "");
 }
 
+TEST_F(RuntimeErrorReport, leaves_the_normal_pointer_behind) {
+  analyst.will_press("OK");
+  as_handler([this] {
+    desktop.set_pointer(rf::Desktop::Pointer::hourglass);
+    throw runtime::Fault(6);
+  });
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(RuntimeErrorReport, is_not_shown_for_a_handler_without_a_fault) {
   as_handler([] {});
   EXPECT_THAT(analyst.boxes(), IsEmpty());
