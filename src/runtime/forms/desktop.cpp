@@ -45,6 +45,7 @@ std::string Desktop::InputBox(const std::string& prompt, const std::string& titl
 }
 
 void Desktop::beep() {
+  ++beeps_;
   QApplication::beep();
 }
 

@@ -94,6 +94,8 @@ class Desktop {
 
   /// How many faults were reported so far.
   int reports() const { return reports_; }
+  /// How often it beeped so far, which no screen can show.
+  int beeps() const { return beeps_; }
 
  private:
   void report(const Fault& fault);
@@ -102,6 +104,7 @@ class Desktop {
   int depth_ = 0;
   int rests_ = 0;
   int reports_ = 0;
+  int beeps_ = 0;
   std::string remark_;
   std::optional<int> exit_code_;  // once the program is to end
 };
