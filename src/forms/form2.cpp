@@ -17,6 +17,7 @@ using runtime::forms::shown;
 constexpr const char* in_frame1 = "Frame1";
 constexpr const char* in_frame2 = "Frame2";
 constexpr const char* mask = "####";
+constexpr const char* number_words = "Enter Number of Zones";
 
 constexpr ControlDesign number(const char* name, int left, bool visible, const char* field,
                                const char* label) {
@@ -56,8 +57,8 @@ constexpr std::array controls{
                   {nullptr, no_index, "zones"}},
     ControlDesign{
         "Frame1", no_index, Kind::Frame, nullptr, "Develop Commercial Market Inputs", {120, 120, 4215, 4920}},
-    ControlDesign{"Label1", no_index, Kind::Label, in_frame1, "Enter Number of Zones", {120, 360, 2415, 255}},
-    number("MaskEdBox1", 120, shown, "Numzones", "Number of Zones"),
+    ControlDesign{"Label1", no_index, Kind::Label, in_frame1, number_words, {120, 360, 2415, 255}},
+    number("MaskEdBox1", 120, shown, "Numzones", number_words),
     number("MaskEdBox2", 1320, hidden, "numdstrct", "Number of Districts"),
     button("Command5", in_frame1, "Save", {120, 1080, 705, 375}, hidden),
     button("Command6", in_frame1, "Cancel ", {840, 1080, 855, 375}, hidden),
@@ -66,7 +67,7 @@ constexpr std::array controls{
     industry(1, "Mining"),
     industry(2, "Agriculture"),
     industry(3, "Service"),
-    button("Command1", in_frame2, "Enter Commercial \n Trip Data", {120, 1920, 1815, 855}, shown),
+    button("Command1", in_frame2, "Enter Commercial \nTrip Data", {120, 1920, 1815, 855}, shown),
     button("Command3", in_frame2, "Enter Commuter\nData", {120, 1920, 1815, 855}, hidden),
     button("Command2", in_frame2, "Quit-Return to\nMain Menu", {2040, 1920, 1815, 855}, shown),
     button("Command4", in_frame2, "Quit-Return to\nMain Menu", {2040, 1920, 1815, 855}, hidden),

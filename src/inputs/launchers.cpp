@@ -22,6 +22,12 @@ void hide(Program& program, const Boxes& boxes) {
   for (int i = boxes.first; i <= boxes.last; ++i) program.form2->Chcktrp(i).set_visible(false);
 }
 
+/// What stands beside the boxes, and what assistive tools call the box of the zones.
+void label_numbers(Program& program, const char* words) {
+  program.form2->Label1.set_caption(words);
+  program.form2->MaskEdBox1.set_label(words);
+}
+
 void show_zone_box(Program& program) {
   program.form2->MaskEdBox1.set_visible(true);
   program.form2->Label1.set_visible(true);
@@ -31,7 +37,7 @@ void show_zone_box(Program& program) {
 void show_district_box(Program& program) {
   auto& form2 = program.form2;
   form2->Label1.set_visible(true);
-  form2->Label1.set_caption("Number of Districts");
+  label_numbers(program, "Number of Districts");
   form2->MaskEdBox1.set_visible(false);
   form2->MaskEdBox2.set_visible(true);
   form2->MaskEdBox2.set_left(form2->MaskEdBox1.left());
@@ -94,7 +100,7 @@ void CommerTdata_Click(Program& program) {
   shell::GoToAppDirectory(program);
   form2.Show();
   form2->MaskEdBox1.set_tab_stop(false);
-  form2->Label1.set_caption("Number of Zones");
+  label_numbers(program, "Number of Zones");
   set_mode_word(program, mode::commercial);
   hide(program, occupation_boxes);
 }
@@ -105,7 +111,7 @@ void Comm_pop_Click(Program& program) {
   shell::DisableMenus(program);
   form2->Command1.set_visible(false);
   form2->MaskEdBox1.set_tab_stop(false);
-  form2->Label1.set_caption("Number of Zones");
+  label_numbers(program, "Number of Zones");
   form2->Frame1.set_caption("Choose Occupations for Commuting Sector");
   form2->Data1.set_visible(false);
   hide(program, industry_boxes);

@@ -83,6 +83,7 @@ void restore_mode_shares(Program& program) {
 }  // namespace
 
 void Command2_Click(Program& program) {
+  drop_refused_texts(program);
   program.form1->Data1.post();  // the grid's row, before the move leaves it
   auto& records = program.form1->Data1.recordset();
   records.MoveLast();
@@ -93,6 +94,7 @@ void Command2_Click(Program& program) {
 }
 
 void Command6_Click(Program& program) {
+  drop_refused_texts(program);
   if (program.form1.caption() == commuter_caption) {
     restore_commuter(program);
   } else if (program.form1.caption() == mode_share_caption) {

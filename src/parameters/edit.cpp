@@ -1,5 +1,6 @@
 // Save and Cancel of the four editors.
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <string>
 
@@ -99,6 +100,13 @@ void offer_main_menu(Program& program) {
   if (reply == runtime::forms::reply_yes) program.form1.Unload();
 }
 
+void drop_refused_texts(Program& program) {
+  auto& form1 = program.form1;
+  const std::initializer_list<DBGrid*> grids{&form1->DBGrid1, &form1->DBGrid2, &form1->DBGrid3,
+                                             &form1->DBGrid4};
+  for (DBGrid* grid : grids) grid->drop_refused_text();
+}
+
 namespace form1 {
 
 void Form_Load(Program&) {}
@@ -116,6 +124,7 @@ void DBGrid1_Click(Program& program) {
 }
 
 void Command1_Click(Program& program) {
+  drop_refused_texts(program);
   end_edit(program, plain_cancel);
 }
 void Command3_Click(Program& program) {
@@ -125,6 +134,7 @@ void Command4_Click(Program& program) {
   end_edit(program, commuter_save);
 }
 void Command5_Click(Program& program) {
+  drop_refused_texts(program);
   end_edit(program, commuter_cancel);
 }
 

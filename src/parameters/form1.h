@@ -9,6 +9,10 @@ namespace parameters {
 /// form as it is. No control of the form may be touched afterwards without loading it anew.
 void offer_main_menu(forms::Program& program);
 
+/// Drops what is typed in the open cells where it can't be stored: what the analyst gives up need not be
+/// mended first.
+void drop_refused_texts(forms::Program& program);
+
 namespace form1 {
 
 void Form_Load(forms::Program& program);

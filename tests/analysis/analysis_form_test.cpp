@@ -130,6 +130,18 @@ TEST_F(DistrictRow, stands_above_the_options_on_the_commuter_page) {
   EXPECT_EQ(place(program.form3->Text3), "0 4200 4335 315");
 }
 
+TEST_F(DistrictRow, shown_again_after_a_pick_cannot_be_typed_into) {
+  open_commuter_page();
+  analyst.click("Check1");
+  pick("Command7", "sample/districts.txt");
+  EXPECT_TRUE(program.form3->Text3.is_enabled());
+  analyst.click("Check1");
+  analyst.click("Check1");
+  EXPECT_TRUE(analyst.sees("Text3"));
+  EXPECT_FALSE(program.form3->Text3.is_enabled());
+  EXPECT_EQ(analyst.text_of("Text3"), app.file("sample/districts.txt").string());
+}
+
 TEST_F(DistrictRow, checked_and_cleared_again_keeps_the_picked_file) {
   open_commuter_page();
   analyst.click("Check1");
@@ -157,6 +169,24 @@ TEST_F(ReliabilityRow, stands_at_top_3000_without_the_commuter_mark) {
   EXPECT_EQ(place(program.form3->Command9), "4440 3000 1575 375");
   EXPECT_EQ(place(program.form3->Text4), "0 3000 4335 371");
   EXPECT_FALSE(program.form3->Text4.is_enabled());
+}
+
+TEST_F(ReliabilityRow, shown_again_after_a_pick_cannot_be_typed_into) {
+  for (const bool commuter : {true, false}) {
+    if (commuter) {
+      open_commuter_page();
+    } else {
+      show();
+    }
+    analyst.click("Option4(1)");
+    pick("Command9", "sample/reliability.txt");
+    EXPECT_TRUE(program.form3->Text4.is_enabled());
+    analyst.click("Option4(2)");
+    analyst.click("Option4(1)");
+    EXPECT_TRUE(analyst.sees("Text4"));
+    EXPECT_FALSE(program.form3->Text4.is_enabled());
+    as_handler([this] { program.form3.Unload(); });
+  }
 }
 
 TEST_F(ReliabilityRow, its_place_depends_on_the_mark_and_nothing_else) {

@@ -189,6 +189,14 @@ TEST_F(DirectoryChooser, forgets_the_planned_files_when_it_is_unloaded_and_not_b
   EXPECT_EQ(program.frmdirget->List1.count(), 0);
 }
 
+TEST_F(DirectoryChooser, shows_a_directory_that_was_made_while_it_stood_behind_another_form) {
+  analyst.choose("Zones");
+  std::filesystem::create_directory(app.file("made_meanwhile"));
+  as_handler([this] { program.frmdirget.Load(); });
+  highlight("made_meanwhile");
+  EXPECT_EQ(program.frmdirget->dirList.highlighted(), in_app("made_meanwhile"));
+}
+
 TEST_F(DirectoryChooser, is_light_grey_with_its_save_button) {
   const QColor light_grey(0xC0, 0xC0, 0xC0);
   EXPECT_EQ(program.frmdirget.surface()->palette().color(QPalette::Window), light_grey);

@@ -1,3 +1,5 @@
+#include <QApplication>
+
 #include "page_drawing.h"
 #include "program_test.h"
 
@@ -7,6 +9,13 @@ constexpr const char* no_zones = "The number of zones for this analysis has not 
 
 class Layouts : public testing_aids::ProgramTest {
  protected:
+  /// Leaves the number in the entry, unsaved.
+  void type_zones(const std::string& digits) {
+    analyst.choose("Zones");
+    QApplication::setActiveWindow(&program.mdiform1.window());  // nobody hands it over after a box
+    analyst.type("MaskEdBox1", digits);
+    EXPECT_EQ(program.form2->MaskEdBox1.text(), digits + "___");
+  }
   std::string drawing() { return testing_aids::drawn_page(program); }
 };
 
@@ -63,6 +72,21 @@ TEST_F(TimeAndDistancePage, takes_a_number_of_zones_that_is_null_for_none) {
   analyst.will_press("OK");
   analyst.choose("spec_timdist");
   EXPECT_EQ(last_box(), no_zones);
+}
+
+TEST_F(TimeAndDistancePage, goes_by_the_number_in_the_box_and_not_by_the_stored_one) {
+  type_zones("0");
+  analyst.will_press("OK");
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(last_box(), no_zones);
+  EXPECT_FALSE(program.form3.loaded());
+}
+
+TEST_F(TimeAndDistancePage, opens_with_a_number_in_the_box_that_is_not_stored) {
+  app.sql("update zones set numzones = 0");
+  type_zones("9");
+  analyst.choose("spec_timdist");
+  EXPECT_TRUE(analyst.sees("Form3"));
 }
 
 TEST_F(TimeAndDistancePage, its_pick_buttons_are_disabled_by_a_good_pick_until_it_is_opened_again) {
@@ -144,6 +168,24 @@ TEST_F(CommuterPage, the_output_button_of_the_other_market_lies_beneath_an_occup
   }
 }
 
+TEST_F(CommuterPage, its_mark_lies_beneath_the_seventh_button_and_ends_beside_it) {
+  open_commuter_page();
+  const QWidget* label = analyst.find("Label2");
+  const QWidget* button = analyst.find("Command10(6)");
+  const QRect place = label->geometry();
+  const auto on_top_at = [this, &place](int x) {
+    return program.form3.surface()->childAt(x, place.center().y());
+  };
+  EXPECT_TRUE(on_top_at(place.left() + 1) == button);
+  EXPECT_TRUE(on_top_at(button->geometry().right() + 2) == label);
+  EXPECT_EQ(analyst.text_of("Label2"), "commute");
+}
+
+TEST_F(TimeAndDistancePage, shows_nothing_of_the_mark) {
+  analyst.choose("spec_timdist");
+  EXPECT_EQ(analyst.text_of("Label2"), "");
+}
+
 TEST_F(CommuterPage, gives_its_thirteenth_button_a_caption_that_is_never_seen) {
   open_commuter_page();
   EXPECT_EQ(program.form3->Command10(12).caption(), "Output File Name");
@@ -163,6 +205,23 @@ TEST_F(CommuterPage, without_zones_shows_the_box_and_leaves_the_menus_off) {
   EXPECT_FALSE(analyst.item_enabled("Inputs"));
   EXPECT_FALSE(analyst.item_enabled("Run"));
   EXPECT_TRUE(analyst.item_enabled("Mnu_exit"));
+}
+
+TEST_F(CommuterPage, goes_by_the_stored_number_and_not_by_the_one_in_the_box) {
+  save_time_files();
+  type_zones("0");
+  analyst.choose("spec_comm");
+  EXPECT_TRUE(analyst.sees("Form3"));
+}
+
+TEST_F(CommuterPage, stays_shut_without_a_stored_number_whatever_is_typed) {
+  save_time_files();
+  app.sql("update zones set numzones = 0");
+  type_zones("9");
+  analyst.will_press("OK");
+  analyst.choose("spec_comm");
+  EXPECT_EQ(last_box(), no_zones);
+  EXPECT_FALSE(program.form3.loaded());
 }
 
 TEST_F(CommuterPage, comes_as_designed_after_the_other_page) {

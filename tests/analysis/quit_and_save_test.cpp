@@ -1,4 +1,5 @@
 #include "analysis/form3.h"
+#include "assistive_tool.h"
 #include "program_test.h"
 
 namespace {
@@ -182,6 +183,118 @@ TEST_F(Quit, of_the_truck_page_does_the_same) {
   EXPECT_EQ(program.form3.DistrictFile, "");
   EXPECT_FALSE(program.desktop.files.is_open(2));
   EXPECT_THAT(program.desktop.loaded_forms, IsEmpty());
+}
+
+/// Leaving while something can't be stored.
+class LeavingUnstored : public LeavingThePage {
+ protected:
+  void refuse(const std::string& table) {
+    app.sql("create trigger refuse_" + table + " before update on " + table +
+            " begin select raise(abort, 'refused'); end");
+  }
+  /// A commuter page with a pick that can't be stored, Form1 loaded before it and Form2 after.
+  void open_page_that_cannot_be_stored() {
+    open_commuter_page();
+    program.form1.hide();
+    pick("Command10(7)", "sample/trips_Mining.txt");
+    have_picks(5);
+    for (const int number : {1, 2}) {
+      program.desktop.files.open_for_output(number, "results/" + std::to_string(number));
+    }
+    refuse("Anfiles");
+    analyst.forget_boxes();
+    analyst.will_press("OK");
+  }
+  /// An editor of Form1 with a change that can't be stored.
+  void have_change_that_cannot_be_stored() {
+    program.form1.hide();
+    as_handler([this] {
+      program.form1->DBGrid2.set_edit_active(true);
+      testing_aids::put_by_assistive_tool(
+          *program.form1->DBGrid2.widget()->findChild<QWidget*>(QStringLiteral("CellEditor")), "21");
+    });
+    ASSERT_TRUE(program.form1->DBGrid2.current_cell_modified());
+    refuse("var_input");
+  }
+  std::string loaded() {
+    std::string names;
+    for (const auto* form : program.desktop.loaded_forms) names += std::string(form->name()) + ' ';
+    return names;
+  }
+  std::string menus() {
+    std::string states;
+    for (const char* item : {"Inputs", "Run", "spec_timdist", "spec_CuCo", "spec_comm", "Spec_commercial"}) {
+      states += analyst.item_enabled(item) ? "on " : "off ";
+    }
+    return states;
+  }
+  static constexpr const char* market_page_menus = "off off off on on on ";
+};
+
+TEST_F(LeavingUnstored, a_save_reports_and_keeps_the_page_the_menus_and_the_run_state) {
+  analyst.choose("spec_timdist");
+  pick("Command4(5)", "sample/imp_time.txt");
+  have_picks(3);
+  refuse("timdist");
+  const std::string menus_before = menus();
+  analyst.forget_boxes();
+  analyst.will_press("Yes");
+  analyst.will_press("OK");
+  analyst.click("Command8");
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  EXPECT_EQ(menus(), menus_before);
+  EXPECT_EQ(menus_before, "off off on off off off ");
+  EXPECT_EQ(loaded(), "Form3 Form2 ");
+  EXPECT_TRUE(analyst.sees("Form3"));
+  EXPECT_EQ(analyst.text_of("Text1(5)"), app.file("sample/imp_time.txt").string());
+  EXPECT_EQ(filled_entries(), 14);
+  app.sql("drop trigger refuse_timdist");
+  save_and("Yes");
+  EXPECT_EQ(loaded(), "");
+  EXPECT_THAT(app.rows("select distance from timdist"),
+              ElementsAre(app.file("sample/imp_time.txt").string()));
+}
+
+TEST_F(LeavingUnstored,
+       a_quit_reports_with_the_picks_forgotten_and_form1_gone_and_keeps_the_page_and_the_menus) {
+  open_page_that_cannot_be_stored();
+  ASSERT_EQ(loaded(), "Form3 Form2 Form1 ");
+  analyst.click("Command3");
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  EXPECT_EQ(loaded(), "Form3 Form2 ");
+  EXPECT_EQ(menus(), market_page_menus);
+  EXPECT_EQ(program.form3.PickCount, 0);
+  EXPECT_EQ(filled_entries(), 14 - 6);
+  EXPECT_EQ(program.form3.OutputFile, "");
+  EXPECT_FALSE(program.desktop.files.is_open(1));
+  EXPECT_FALSE(program.desktop.files.is_open(2));
+  EXPECT_TRUE(analyst.sees("Form3"));
+}
+
+TEST_F(LeavingUnstored, a_quit_of_the_truck_page_reports_before_form1_goes) {
+  open_page_that_cannot_be_stored();
+  program.form3->Command14.set_visible(true);
+  analyst.click("Command14");
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  EXPECT_EQ(loaded(), "Form3 Form2 Form1 ");
+  EXPECT_EQ(menus(), market_page_menus);
+  EXPECT_EQ(program.form3.PickCount, 0);
+  EXPECT_EQ(filled_entries(), 14 - 6);
+  EXPECT_FALSE(program.desktop.files.is_open(1));
+}
+
+TEST_F(LeavingUnstored, a_quit_stores_form1_first_and_that_of_the_truck_page_last) {
+  open_commuter_page();
+  have_change_that_cannot_be_stored();
+  analyst.will_press("OK");
+  analyst.click("Command3");
+  EXPECT_EQ(loaded(), "Form3 Form2 Form1 ");
+  EXPECT_EQ(menus(), market_page_menus);
+  program.form3->Command14.set_visible(true);
+  analyst.will_press("OK");
+  analyst.click("Command14");
+  EXPECT_EQ(loaded(), "Form1 ");
+  EXPECT_EQ(menus(), market_page_menus);
 }
 
 TEST_F(LeavingThePage, the_second_save_is_seen_on_no_page_and_only_unloads) {

@@ -138,6 +138,10 @@ void Analyst::will_cancel_file() {
   });
 }
 
+void Analyst::will_do(const std::function<void(QDialog&)>& answer) {
+  answers_.push_back(answer);
+}
+
 bool Analyst::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Show) return false;
   auto* dialog = qobject_cast<QDialog*>(watched);

@@ -39,6 +39,8 @@ class Analyst : public QObject {
   void will_enter(const std::string& text);
   void will_choose_file(const std::string& path);
   void will_cancel_file();
+  /// Anything else; it must leave the box closed, or answered by an event that is under way.
+  void will_do(const std::function<void(QDialog&)>& answer);
   /// Called when the next box stands on the screen, before it is answered.
   std::function<void(const Box&)> when_box_shows;
 

@@ -35,7 +35,7 @@ Chcktrp(13) "Machine Operaters, Assemblers, Inspectors"
 Chcktrp(14) "Transportation and material moving"
 Chcktrp(15) "Handlers, equipment cleaners, helpers"
 Chcktrp(16) "Armed Forces" hidden
-Command1 "Enter Commercial / Trip Data" in Frame2
+Command1 "Enter Commercial /Trip Data" in Frame2
 Command2 "Quit-Return to/Main Menu" in Frame2
 Command3 "Enter Commuter/Data" in Frame2 hidden
 Command4 "Quit-Return to/Main Menu" in Frame2 hidden

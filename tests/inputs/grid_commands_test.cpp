@@ -135,11 +135,15 @@ TEST_F(GridCommands, filter_reads_no_other_table) {
 }
 
 TEST_F(GridCommands, a_table_can_be_neither_filtered_nor_sorted) {
+  int beeps_at_box = 0;
+  analyst.when_box_shows = [&](const analyst::Box&) { beeps_at_box = program.desktop.beeps(); };
   for (const std::string verb : {"Filter", "Sort"}) {
+    const int beeps = program.desktop.beeps();
     analyst.will_press("OK");
     as_handler([&] { EXPECT_TRUE(inputs::frmdatagrid::table_is_refused(program, 0, verb)); });
     EXPECT_EQ(last_box(), "You Cannot " + verb + " a Table Recordset!");
     EXPECT_EQ(analyst.last_box().icon, 2);
+    EXPECT_EQ(beeps_at_box, beeps + 1);
   }
   analyst.forget_boxes();
   as_handler([&] { EXPECT_FALSE(inputs::frmdatagrid::table_is_refused(program, 1, "Filter")); });

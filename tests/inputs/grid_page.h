@@ -90,7 +90,7 @@ class GridPage : public ProgramTest {
     return *qobject_cast<QLineEdit*>(program.frmDataGrid->txt_zonedit(index).widget());
   }
   void type_into(int index, const std::string& text) {
-    box(index).clear();
+    box(index).selectAll();
     QTest::keyClicks(&box(index), QString::fromStdString(text));
   }
   void type_range(const std::vector<std::string>& texts) {

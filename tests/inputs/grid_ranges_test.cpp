@@ -1,4 +1,5 @@
 // Columns are picked by their headings, and a value fills a range of them.
+#include "assistive_tool.h"
 #include "grid_page.h"
 #include "inputs/frmdatagrid.h"
 
@@ -103,6 +104,29 @@ TEST_F(GridRanges, tell_twice_of_a_wrong_character_and_empty_the_box) {
     EXPECT_EQ(analyst.last_box().icon, stop_sign_icon);
     EXPECT_EQ(box(i).text(), "");
   }
+}
+
+TEST_F(GridRanges, pass_over_a_wrong_character_that_is_not_the_last) {
+  open_times(2);
+  for (int i = 0; i <= 4; ++i) {
+    type_into(i, "12");
+    box(i).setCursorPosition(1);
+    QTest::keyClicks(&box(i), QStringLiteral("x"));
+    EXPECT_EQ(box(i).text(), "1x2") << i;
+  }
+  EXPECT_THAT(analyst.boxes(), IsEmpty());
+}
+
+TEST_F(GridRanges, take_what_an_assistive_tool_puts_in_and_check_it_like_a_key) {
+  open_times(2);
+  testing_aids::put_by_assistive_tool(box(0), "12");
+  EXPECT_EQ(program.frmDataGrid->txt_zonedit(0).text(), "12");
+  EXPECT_THAT(analyst.boxes(), IsEmpty());
+  analyst.will_press("OK");
+  analyst.will_press("OK");
+  testing_aids::put_by_assistive_tool(box(0), "12-");
+  EXPECT_THAT(analyst.texts(), ElementsAre("Must enter an integer number", "Must enter an integer number"));
+  EXPECT_EQ(box(0).text(), "");
 }
 
 TEST_F(GridRanges, tell_once_when_a_box_is_emptied_by_backspace) {

@@ -1,6 +1,7 @@
 // The files that a data entry leaves, byte by byte, and how a save ends that cannot go on.
 #include "inputs/grid_save.h"
 
+#include "assistive_tool.h"
 #include "grid_save_page.h"
 #include "ordinary_user.h"
 #include "small_disk.h"
@@ -129,7 +130,7 @@ TEST_F(GridSave, of_sorted_trips_numbers_the_origins_in_the_sorted_order) {
             "         1         1        21\r\n         2         2        22\r\n");
 }
 
-TEST_F(GridSave, of_filtered_trips_stops_at_the_end_of_the_records_with_the_hourglass_on) {
+TEST_F(GridSave, of_filtered_trips_stops_at_the_end_of_the_records_with_the_hourglass_on_until_it_is_read) {
   open_trips(2, {1});
   app.sql("UPDATE sosec SET Origin = 77");
   analyst.will_enter("Destination = 2");
@@ -137,13 +138,24 @@ TEST_F(GridSave, of_filtered_trips_stops_at_the_end_of_the_records_with_the_hour
   press_on_grid("cmdClose");
   analyst.forget_boxes();
   analyst.will_press("OK");
+  std::string at_report;
+  analyst.when_box_shows = [&at_report](const analyst::Box&) { at_report = hourglass(); };
   save_into("study");
   EXPECT_THAT(last_box(), StartsWith("Run-time error '3021':"));
   EXPECT_THAT(files_in("study"), IsEmpty());
-  EXPECT_EQ(hourglass(), "hourglass");
+  EXPECT_EQ(at_report, "hourglass");
+  EXPECT_EQ(hourglass(), "normal");
   EXPECT_THAT(sosec(), ElementsAre("77|1|null", "1|2|null", "77|1|null", "1|2|null"));
   EXPECT_EQ(loaded_forms(), "Form2*- Frmdirget*");
-  as_handler([this] { program.desktop.set_pointer(runtime::forms::Desktop::Pointer::normal); });
+}
+
+TEST_F(GridSave, of_trips_renumbers_as_many_zones_as_the_box_shows_and_not_as_are_stored) {
+  open_trips(2, {1});
+  app.sql("UPDATE sosec SET Origin = 77");
+  press_on_grid("cmdClose");
+  testing_aids::put_by_assistive_tool(*program.form2->MaskEdBox1.widget(), "1");
+  save_into("study");
+  EXPECT_THAT(sosec(), ElementsAre("1|1|null", "77|2|null", "77|1|null", "77|2|null"));
 }
 
 TEST_F(GridSave, of_trips_with_no_industry_chosen_any_more_faults_before_it_changes_anything) {
@@ -262,7 +274,7 @@ TEST_F(GridSave, of_trips_into_a_vanished_directory_ends_in_a_report_and_can_be_
   press_on_grid("cmdClose");
   save_into_spoilt([](const auto& directory) { std::filesystem::remove(directory); });
   EXPECT_THAT(last_box(), StartsWith("Run-time error '76':"));
-  EXPECT_EQ(hourglass(), "hourglass");
+  EXPECT_EQ(hourglass(), "normal");
   save_into("study");
   EXPECT_THAT(files_in("study"),
               ElementsAre(Pair("trips_Mining.txt", "         1         1          \r\n"),

@@ -1,6 +1,8 @@
+#include <QAbstractButton>
 #include <QMessageBox>
 #include <QTest>
 
+#include "assistive_tool.h"
 #include "inputs/form2.h"
 #include "inputs_page.h"
 
@@ -99,6 +101,57 @@ TEST_F(NumberEntry, fewer_zones_than_districts_are_refused_after_a_no_as_well) {
   save_zones("3", {"No", "OK"});
   EXPECT_EQ(last_box(), "Number of Districts (4) greater than Number of Zones! (24)");
   EXPECT_TRUE(analyst.sees("Command5"));
+}
+
+TEST_F(NumberEntry, a_refusal_tells_the_districts_as_typed_and_the_zones_as_stored) {
+  analyst.choose("Districts");
+  analyst.type("MaskEdBox2", "9");
+  analyst.choose("Zones");
+  analyst.type("MaskEdBox1", "3");
+  click_and_answer("Command5", {"Yes", "OK"});
+  EXPECT_EQ(last_box(), "Number of Districts (9) greater than Number of Zones! (24)");
+  EXPECT_EQ(stored(), "24|4");
+}
+
+TEST_F(NumberEntry, a_question_is_left_by_its_buttons_alone) {
+  for (const auto& [item, box, save] : {std::tuple("Zones", "MaskEdBox1", "Command5"),
+                                        {"Districts", "MaskEdBox2", "Command5"},
+                                        {"Zones", "MaskEdBox1", "Command6"}}) {
+    analyst.choose(item);
+    analyst.type(box, "7");
+    analyst.will_do([this](QDialog& question) {
+      QTest::keyClick(&question, Qt::Key_Escape);
+      question.close();
+      EXPECT_TRUE(question.isVisible());
+      EXPECT_EQ(stored(), "24|4");
+      QTest::mouseClick(qobject_cast<QMessageBox*>(&question)->button(QMessageBox::No), Qt::LeftButton);
+    });
+    press(program.form2, save);
+    EXPECT_TRUE(program.form2.loaded()) << item;
+    EXPECT_EQ(stored(), "24|4");
+    as_handler([this] { program.form2.Unload(); });
+  }
+}
+
+TEST_F(NumberEntry, what_an_assistive_tool_puts_into_the_box_is_asked_about_and_stored) {
+  analyst.choose("Zones");
+  testing_aids::put_by_assistive_tool(*analyst.find("MaskEdBox1"), "30");
+  click_and_answer("Command5", {"Yes"});
+  EXPECT_THAT(analyst.texts(), ElementsAre("you have entered 30__ zones   Is this correct?"));
+  EXPECT_EQ(stored(), "30|4");
+}
+
+TEST_F(NumberEntry, the_box_bears_its_labels_present_words_for_an_assistive_tool) {
+  for (const auto& [item, box] : {std::pair("Zones", "MaskEdBox1"),
+                                  {"Districts", "MaskEdBox2"},
+                                  {"Zones", "MaskEdBox1"},
+                                  {"CommerTdata", "MaskEdBox1"},
+                                  {"Comm_pop", "MaskEdBox1"}}) {
+    analyst.choose(item);
+    EXPECT_EQ(analyst.find(box)->accessibleName().toStdString(), analyst.text_of("Label1")) << item;
+  }
+  as_handler([this] { program.form2.Unload(); });
+  EXPECT_EQ(program.form2->MaskEdBox1.widget()->accessibleName().toStdString(), "Enter Number of Zones");
 }
 
 TEST_F(NumberEntry, as_many_zones_as_districts_pass) {

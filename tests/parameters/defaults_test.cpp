@@ -153,6 +153,22 @@ TEST_F(RestoreDefaults, wins_over_what_was_just_typed) {
   EXPECT_EQ(shares(), share_defaults);
 }
 
+TEST_F(RestoreDefaults, wins_over_a_word_in_the_open_cell_without_a_word) {
+  spoil_tables();
+  for (const auto& [editor, grid, button] : {std::tuple(commercial_editor, "DBGrid1", "Command2"),
+                                             {commuter_editor, "DBGrid4", "Command6"},
+                                             {share_editor, "DBGrid3", "Command6"}}) {
+    analyst.choose(editor);
+    type_into(grid, 0, 1, "abc");
+    press(button, "Yes");
+    EXPECT_FALSE(program.form1.loaded()) << editor;
+  }
+  EXPECT_THAT(analyst.texts(), ElementsAre(question, question, question));
+  EXPECT_THAT(industries(), ElementsAreArray(commercial_defaults));
+  EXPECT_THAT(wages(), ElementsAreArray(commuter_defaults));
+  EXPECT_EQ(shares(), share_defaults);
+}
+
 TEST_F(RestoreDefaults, leaves_the_earlier_rows_written_where_there_are_too_few) {
   spoil_tables();
   app.sql("DELETE FROM Commercial WHERE rowid > 2; DELETE FROM commuter WHERE rowid > 3");

@@ -2,6 +2,8 @@
 #include <QHeaderView>
 
 #include "parameter_page.h"
+#include "runtime/text/numbers.h"
+#include "shell/module1.h"
 
 namespace {
 
@@ -72,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(, ParameterEnding,
 
 using ParameterRows = ParameterPage;
 
+constexpr const char* second_unit_cost = R"(SELECT "Unit Cost" FROM Commercial WHERE industry_number = 2)";
+
 TEST_F(ParameterRows, the_plain_pair_moves_the_commercial_grid_to_its_second_row_in_every_editor) {
   for (const char* editor : {commercial_editor, share_editor, reliability_editor}) {
     for (const char* button : {"Command3", "Command1"}) {
@@ -93,6 +97,52 @@ TEST_F(ParameterRows, the_commuter_pair_moves_the_wages_to_their_second_row) {
     EXPECT_EQ(program.form1->DBGrid4.current_row(), 1) << button;
     EXPECT_EQ(program.form1->DBGrid4.current_column(), 2) << button;
     press(button, "Yes");
+  }
+}
+
+TEST_F(ParameterRows, the_commuter_save_stores_what_is_open_in_the_hidden_grid_of_the_costs) {
+  for (const bool shares : {false, true}) {
+    const std::string cost = shares ? "32" : "31";
+    analyst.choose(commercial_editor);
+    type_into("DBGrid1", 0, 2, cost);
+    analyst.choose(commuter_editor);
+    if (shares) analyst.choose(share_editor);
+    ASSERT_TRUE(program.form1->DBGrid1.edit_active());
+    std::string at_question;
+    analyst.when_box_shows = [&](const analyst::Box&) {
+      at_question = runtime::text::joined(program.form1->Data1.field("Unit Cost"));
+      EXPECT_FALSE(program.form1->DBGrid1.edit_active());
+    };
+    press("Command4", "Yes");
+    EXPECT_EQ(at_question, cost);
+    as_handler([this] { shell::EnableMenus(program); });
+  }
+}
+
+TEST_F(ParameterRows, the_commuter_cancel_leaves_it_open) {
+  analyst.choose(commercial_editor);
+  type_into("DBGrid1", 1, 2, "31");
+  analyst.choose(commuter_editor);
+  press("Command5", "No");
+  EXPECT_TRUE(program.form1->DBGrid1.edit_active());
+  EXPECT_EQ(value(second_unit_cost), "25.04");
+}
+
+TEST_F(ParameterRows, the_commuter_pair_moves_the_shares_to_their_first_record) {
+  app.sql("INSERT INTO Commute_Param VALUES (0.25, 0.25, 0.25, 0.25, 1, 2)");
+  for (const char* button : {"Command4", "Command5"}) {
+    analyst.choose(commuter_editor);
+    analyst.choose(share_editor);
+    as_handler([this] { program.form1->Command5.set_top(4600); });  // out from under the grid
+    go_to("DBGrid3", 1, 4);
+    ASSERT_EQ(program.form1->DBGrid3.current_row(), 1);
+    type_into("DBGrid3", 1, 4, "7");
+    press(button, "No");
+    EXPECT_EQ(program.form1->DBGrid3.current_row(), 0) << button;
+    EXPECT_THAT(app.rows("SELECT CostParameterA FROM Commute_Param"), ElementsAre("0.25", "7.0")) << button;
+    as_handler([this] { program.form1.Unload(); });
+    app.sql("UPDATE Commute_Param SET CostParameterA = 1 WHERE CostParameterB = 2");
+    as_handler([this] { shell::EnableMenus(program); });
   }
 }
 

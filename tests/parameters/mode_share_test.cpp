@@ -124,6 +124,19 @@ TEST_F(ModeShares, a_sum_beyond_single_precision_is_an_overflow) {
   }
 }
 
+TEST_F(ModeShares, of_two_records_the_current_one_is_tested) {
+  app.sql("INSERT INTO Commute_Param VALUES (0.5, 0, 0, 0, 1, 2)");
+  analyst.choose(commuter_editor);
+  analyst.choose(share_editor);
+  key("DBGrid3", Qt::Key_Down);
+  press("Command4", "OK");
+  EXPECT_EQ(last_box(), refusal);
+  EXPECT_EQ(program.form1->DBGrid3.current_row(), 1);
+  key("DBGrid3", Qt::Key_Up);
+  press("Command4", "No");
+  EXPECT_EQ(last_box(), question);
+}
+
 TEST_F(ModeShares, the_cost_parameters_take_no_part) {
   app.sql("UPDATE Commute_Param SET CostParameterA = NULL, CostParameterB = 100");
   analyst.choose(commuter_editor);

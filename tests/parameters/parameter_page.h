@@ -33,6 +33,16 @@ class ParameterPage : public ProgramTest {
     key(grid, Qt::Key_Tab);
   }
 
+  /// The first row on the screen of a grid.
+  std::string drawn_row(const std::string& grid) {
+    auto* view = qobject_cast<QTableView*>(analyst.find(grid));
+    std::string row;
+    for (int column = 0; column < view->model()->columnCount(); ++column) {
+      row += view->model()->index(0, column).data().toString().toStdString() + '|';
+    }
+    return row;
+  }
+
   /// Clicks a cell on the screen; `column` is that of the table.
   void click_cell(const std::string& grid, int row, int column) {
     auto* view = qobject_cast<QTableView*>(analyst.find(grid));

@@ -18,15 +18,14 @@ namespace fs = std::filesystem;
 
 constexpr const char* links_table = "table_links";
 
-// "text; database=" and the directory.
+// What stands behind "database=": all of it, because a directory's name may hold a semicolon.
 std::string directory_in(std::string_view connect) {
   constexpr std::string_view key = "database=";
   for (std::size_t place = 0; place < connect.size();) {
-    const auto end = std::min(connect.find(';', place), connect.size());
-    auto part = connect.substr(place, end - place);
+    auto part = connect.substr(place);
     part.remove_prefix(std::min(part.find_first_not_of(' '), part.size()));
     if (same_name(part.substr(0, key.size()), key)) return std::string(part.substr(key.size()));
-    place = end + 1;
+    place = std::min(connect.find(';', place), connect.size()) + 1;
   }
   return {};
 }

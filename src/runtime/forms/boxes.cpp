@@ -1,6 +1,8 @@
 #include "runtime/forms/boxes.h"
 
+#include <QCloseEvent>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include "runtime/fault.h"
@@ -11,6 +13,7 @@ namespace runtime::forms {
 
 namespace {
 
+constexpr const char* message_name = "MsgBox";
 constexpr int buttons_mask = 0x0F;
 constexpr int icon_mask = 0xF0;
 
@@ -46,25 +49,49 @@ void set_text(QMessageBox& box, QString text) {
   box.setDetailedText(text.mid(end));
 }
 
-int exec(QWidget* parent, const char* name, const QString& text, int style, const std::string& title) {
-  QMessageBox box(parent);
+/// A question is left by its answers alone: neither Escape nor the close button of its window is one.
+class Question : public QMessageBox {
+ public:
+  explicit Question(QWidget* parent) : QMessageBox(parent) {
+    setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    setDefaultButton(QMessageBox::Yes);  // on every desktop, whichever button comes first there
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Cancel)) return event->accept();
+    QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
+int exec(QMessageBox& box, const char* name, const QString& text, int style, const std::string& title) {
   box.setObjectName(QString::fromLatin1(name));
   box.setWindowTitle(qt(title));
   box.setTextFormat(Qt::PlainText);  // a path with "<" in it is no markup
   set_text(box, text);
   box.setIcon(icon_of(style));
-  const bool asks = (style & buttons_mask) == yes_no;
-  box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
-                              : QMessageBox::StandardButtons(QMessageBox::Ok));
-  const int answer = box.exec();
-  if (!asks) return reply_ok;
-  return answer == QMessageBox::Yes ? reply_yes : reply_no;
+  return box.exec();
+}
+
+int tell(QWidget* parent, const char* name, const QString& text, int style, const std::string& title) {
+  QMessageBox box(parent);
+  box.setStandardButtons(QMessageBox::Ok);
+  exec(box, name, text, style, title);
+  return reply_ok;
+}
+
+int ask(QWidget* parent, const QString& text, int style, const std::string& title) {
+  Question box(parent);
+  return exec(box, message_name, text, style, title) == QMessageBox::Yes ? reply_yes : reply_no;
 }
 
 }  // namespace
 
 int show_message(QWidget* parent, const std::string& prompt, int style, const std::string& title) {
-  return exec(parent, "MsgBox", with_line_feeds(prompt), style, title);
+  const QString text = with_line_feeds(prompt);
+  if ((style & buttons_mask) == yes_no) return ask(parent, text, style, title);
+  return tell(parent, message_name, text, style, title);
 }
 
 std::string ask_for_text(QWidget* parent, const std::string& prompt, const std::string& title) {
@@ -77,7 +104,7 @@ std::string ask_for_text(QWidget* parent, const std::string& prompt, const std::
 
 void show_runtime_error(QWidget* parent, const Fault& fault, const std::string& title) {
   const QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(fault.number).arg(qt(fault.what()));
-  exec(parent, "RuntimeError", text, critical, title);
+  tell(parent, "RuntimeError", text, critical, title);
 }
 
 }  // namespace runtime::forms

@@ -3,11 +3,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QSettings>
 
 #include "runtime/fault.h"
 #include "runtime/files/path_names.h"
+#include "runtime/forms/boxes.h"
 #include "runtime/forms/desktop.h"
 #include "runtime/forms/twips.h"
 
@@ -29,6 +32,39 @@ QStringList name_filters(const std::string& filter) {
   }
   return filters;
 }
+
+/// Qt's dialog, but a typed name with a wildcard is no file: it says which names are to be listed.
+class FileDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+ protected:
+  void accept() override {
+    auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const std::string typed = box->text().toStdString();
+    const std::string name(files::file_name_of(typed).value_or(typed));
+    if (name.find_first_of("*?") == std::string::npos) return QFileDialog::accept();
+    const QDir place = place_of(typed);
+    if (!place.exists()) return tell_of_no_directory(place);
+    setDirectory(place);
+    findChild<QFileSystemModel*>()->setNameFilters({qt(name)});
+    box->setText(qt(name));
+    box->selectAll();
+  }
+
+ private:
+  QDir place_of(const std::string& typed) const {
+    const auto written = files::directory_of(typed);
+    if (!written) return directory();
+    return QDir(directory().absoluteFilePath(qt(files::text_of(files::native(*written)))));
+  }
+
+  void tell_of_no_directory(const QDir& place) {
+    const QString path = QDir::toNativeSeparators(QDir::cleanPath(place.path()));
+    show_message(this, "There is no directory " + path.toStdString() + ".", exclamation,
+                 windowTitle().toStdString());
+  }
+};
 
 /// The directory that the dialog opens in: its own, or that of a file name that holds one.
 QString start_directory(const std::string& init_dir, const std::string& file_name) {
@@ -56,7 +92,7 @@ void CommonDialog::ShowSave() {
 void CommonDialog::show(const QString& button) {
   // The dialog keeps its settings below the application directory: nothing outside it is written.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, qt(desktop().app_path));
-  QFileDialog dialog(desktop().main_window);
+  FileDialog dialog(desktop().main_window);
   dialog.setObjectName(QStringLiteral("cdbox1"));
   dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
                     QFileDialog::HideNameFilterDetails);
@@ -74,7 +110,7 @@ void CommonDialog::show(const QString& button) {
     if (cancel_error) throw Fault(cancel_fault);
     return;
   }
-  const QString chosen = QDir::toNativeSeparators(dialog.selectedFiles().value(0));
+  const QString chosen = QDir::toNativeSeparators(QDir::cleanPath(dialog.selectedFiles().value(0)));
   file_name = chosen.toStdString();
   flags = chosen.endsWith(QLatin1String(expected_extension), Qt::CaseInsensitive) ? no_change_directory
                                                                                   : extension_different;

@@ -25,9 +25,9 @@ class CommonDialog : public Control {
   std::string init_dir;
   std::string file_name;
 
-  /// Shows the dialog. A chosen path is absolute and goes to `file_name`; a cancelled dialog leaves
-  /// `file_name` as it was and, with `cancel_error` set, is fault 32755. No file has to exist and none is
-  /// asked about before it is overwritten: the caller tests.
+  /// Shows the dialog. A chosen path is absolute, without "." and "..", and goes to `file_name`; a cancelled
+  /// dialog leaves `file_name` as it was and, with `cancel_error` set, is fault 32755. No file has to exist
+  /// and none is asked about before it is overwritten: the caller tests.
   void ShowOpen();
   void ShowSave();
 

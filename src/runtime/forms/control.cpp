@@ -56,6 +56,7 @@ void Control::set_height(int twips) {
 }
 
 void Control::set_visible(bool visible) {
+  if (visible_ && !visible) about_to_hide();
   visible_ = visible;
   widget_->setVisible(visible);
   if (visible && !lies_under()) widget_->raise();
@@ -81,6 +82,10 @@ void Control::set_font_size(double points) {
 
 void Control::set_tab_stop(bool tab_stop) {
   widget_->setFocusPolicy(tab_stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void Control::set_label(const std::string& label) {
+  widget_->setAccessibleName(qt(label));
 }
 
 void Control::fire(Event event) {

@@ -57,11 +57,15 @@ class Control {
   double font_size() const { return font_size_; }
   void set_font_size(double points);
   void set_tab_stop(bool tab_stop);
+  /// What assistive tools call it.
+  void set_label(const std::string& label);
 
   /// Sets the handler of an event; a control without one passes the event over.
   /// It gets what the event hands over, and the control's index where that is nothing.
   void on(Event event, std::function<void(int)> handler) { handlers_[event] = std::move(handler); }
   void forget_handlers() { handlers_.clear(); }
+  /// Its form is shown, or brought to the front.
+  virtual void form_shown() {}
 
  protected:
   virtual QWidget* make_widget(QWidget* parent) = 0;
@@ -71,6 +75,8 @@ class Control {
   virtual void created(const ControlDesign&) {}
   /// What a kind has to do whenever its widget was put in its place.
   virtual void placed() {}
+  /// What a kind has to do before its widget goes from the screen by the program's will.
+  virtual void about_to_hide() {}
   /// Labels and drawn shapes lie under everything that can be used.
   virtual bool lies_under() const { return false; }
 

@@ -23,6 +23,17 @@ std::string plain_words(const Refusal& refusal, const Sheet& sheet) {
   return refusal.words + "\n\nCorrect it, or press Escape to have the former value back.";
 }
 
+std::string no_such_row(const std::vector<std::string>& key_names, const std::vector<std::int64_t>& keys,
+                        const grid::Found& found, std::int64_t rows) {
+  std::string words = "There is no row with";
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    words += (i == 0 ? " " : ", ") + key_names[i] + " " + std::to_string(keys[i]);
+  }
+  if (found.looked_at == rows) return words + ".";
+  return words + " among the first " + std::to_string(found.looked_at) +
+         ". The rows stand in an order in which a search of all of them would take too long.";
+}
+
 }  // namespace
 
 QWidget* DBGrid::make_widget(QWidget* parent) {
@@ -149,6 +160,19 @@ std::function<void()> DBGrid::edit_keeper() {
   };
 }
 
+void DBGrid::drop_refused_text() {
+  if (!sheet().refusal()) return;
+  sheet().step_back();
+  view_->sync();
+}
+
+void DBGrid::about_to_hide() {
+  const auto refusal = sheet().refusal();
+  if (!refusal) return;
+  drop_refused_text();
+  desktop().MsgBox(refusal->words, exclamation);
+}
+
 void DBGrid::records_changed() {
   sheet().records_changed();
   view_->records_changed();
@@ -164,31 +188,20 @@ void DBGrid::ask_for_row() {
   std::vector<std::string> key_names;
   const int keys = grid::key_columns(sheet());
   for (int column = 0; column < keys; ++column) key_names.push_back(sheet().heading(column));
-  const auto wish = grid::ask_for_row(desktop().main_window, key_names);
+  // What is being edited has no part in it: these words must not call it wrong.
+  const auto tell = [this](const std::string& words) { desktop().MsgBox(words, exclamation); };
+  const auto wish = grid::ask_for_row(desktop().main_window, key_names, tell);
   if (!wish) return;
-  if (wish->keys.empty()) return go_to_row_number(*wish->number);
-  const grid::Found found = grid::find_row(sheet(), wish->keys);
-  if (found.row) return view_->move_to({*found.row, sheet().current().column});
-  std::string words = "There is no row with";
-  for (int column = 0; column < keys; ++column) {
-    words += (column == 0 ? " " : ", ") + key_names[static_cast<std::size_t>(column)] + " " +
-             std::to_string(wish->keys[static_cast<std::size_t>(column)]);
-  }
-  if (found.looked_at < sheet().rows()) {
-    words += " among the first " + std::to_string(found.looked_at) +
-             ". The rows stand in an order in which a search of all of them would take too long.";
-  } else {
-    words += ".";
-  }
-  throw Refusal(words);
-}
-
-void DBGrid::go_to_row_number(std::int64_t number) {
-  if (number < 1 || number > sheet().rows()) {
-    throw Refusal("There is no row " + std::to_string(number) + ". The last row is " +
+  if (wish->keys.empty()) {
+    if (*wish->number < 1 || *wish->number > sheet().rows()) {
+      return tell("There is no row " + std::to_string(*wish->number) + ". The last row is " +
                   std::to_string(sheet().rows()) + ".");
+    }
+    return view_->move_to_middle(*wish->number - 1);
   }
-  view_->move_to({number - 1, sheet().current().column});
+  const grid::Found found = grid::find_row(sheet(), wish->keys);
+  if (found.row) return view_->move_to_middle(*found.row);
+  tell(no_such_row(key_names, wish->keys, found, sheet().rows()));
 }
 
 }  // namespace runtime::forms

@@ -67,6 +67,8 @@ class DBGrid : public Control {
   void drop_edit();
   /// Puts both back as they were when it was called; good as long as the grid shows the same records.
   std::function<void()> edit_keeper();
+  /// Drops the open edit when its text is one that its column can't take. The row's buffer stays.
+  void drop_refused_text();
   /// The data control was given other records, or has read its own anew: shows them from the current one on.
   void records_changed();
   /// Code has got hold of the records and may move or change them: the grid shows what it did as soon as the
@@ -77,13 +79,15 @@ class DBGrid : public Control {
 
  protected:
   QWidget* make_widget(QWidget* parent) override;
+  /// Nobody could mend a text that waits in a grid which is not to be seen: one that can't be stored is told
+  /// and dropped.
+  void about_to_hide() override;
 
  private:
   grid::Sheet& sheet() const;
   /// Runs what a person set off. A text that can't be stored is told, and stays to be mended.
   void run(const std::function<void()>& action);
   void ask_for_row();
-  void go_to_row_number(std::int64_t number);
 
   QPointer<grid::GridView> view_;
 };

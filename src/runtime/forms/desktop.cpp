@@ -48,6 +48,7 @@ std::string Desktop::InputBox(const std::string& prompt, const std::string& titl
 }
 
 void Desktop::beep() {
+  ++beeps_;
   QApplication::beep();
 }
 
@@ -114,6 +115,7 @@ void Desktop::tell_of_wait(bool is_waiting) {
 void Desktop::report(const Fault& fault) {
   ++reports_;
   show_runtime_error(main_window, fault, program_title);
+  set_pointer(Pointer::normal);  // the work that the hourglass stood for is over
 }
 
 void Desktop::end_with_report(const Fault& fault) {

@@ -95,6 +95,8 @@ class Desktop {
 
   /// How many faults were reported so far.
   int reports() const { return reports_; }
+  /// How often it beeped so far, which no screen can show.
+  int beeps() const { return beeps_; }
 
  private:
   void report(const Fault& fault);
@@ -105,6 +107,7 @@ class Desktop {
   int rests_ = 0;
   std::string words_before_wait_;
   int reports_ = 0;
+  int beeps_ = 0;
   std::string remark_;
   std::optional<int> exit_code_;  // once the program is to end
 };

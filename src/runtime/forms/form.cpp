@@ -28,8 +28,7 @@ void FormBase::reference() {
 }
 
 void FormBase::Load() {
-  reference();
-  if (!visible_) Show();
+  Show();
 }
 
 void FormBase::build() {
@@ -119,6 +118,7 @@ void FormBase::Show() {
     apply_window_state();
   }
   if (desktop_.mdi_area != nullptr) desktop_.mdi_area->setActiveSubWindow(window_);
+  for (Control* control : controls_->all()) control->form_shown();
 }
 
 void FormBase::hide() {
@@ -146,7 +146,7 @@ void FormBase::apply_window_state() {
       window_->showMinimized();
       break;
     case WindowState::maximized:
-      window_->showMaximized();
+      window_->maximize();
       break;
   }
 }
@@ -158,7 +158,7 @@ void FormBase::Refresh() {
 
 int FormBase::width() {
   reference();
-  return twips(window_->width());
+  return twips(window_->size_without_icon().width());
 }
 
 void FormBase::set_caption(const std::string& caption) {

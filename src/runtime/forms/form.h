@@ -43,7 +43,7 @@ class FormBase {
   const FormDesign& design() const { return design_; }
   Desktop& desktop() const { return desktop_; }
 
-  /// The explicit load: the form appears, also when it was loaded invisible.
+  /// The explicit load: the form appears, also when it was loaded invisible, and in front of the others.
   void Load();
   void Show();
   /// What a form does when code sets it not visible: a form that is not loaded is loaded hidden.
@@ -62,7 +62,7 @@ class FormBase {
   void set_window_state(WindowState state);
   /// Paints the form at once.
   void Refresh();
-  /// The width of its window, frame included, in twips.
+  /// The width of its window, frame included, in twips; of an icon that of the window that it stands for.
   int width();
   void set_caption(const std::string& caption);
   /// The font of the form itself, in points; 0 as designed. Its controls have fonts of their own.

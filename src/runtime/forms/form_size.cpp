@@ -13,11 +13,11 @@ FormWindow& window_of(const FormBase& form) {
 }
 
 int width_of(const FormBase& form) {
-  return twips(window_of(form).width());
+  return twips(window_of(form).size_without_icon().width());
 }
 
 int height_of(const FormBase& form) {
-  return twips(window_of(form).height());
+  return twips(window_of(form).size_without_icon().height());
 }
 
 void move_to(const FormBase& form, int left, int top) {

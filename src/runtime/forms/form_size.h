@@ -8,7 +8,8 @@ class FormWindow;
 
 FormWindow& window_of(const FormBase& form);
 
-/// The width and height of a form's window, its frame included, in twips.
+/// The width and height of a form's window, its frame included, in twips; of an icon those of the window that
+/// it stands for.
 int width_of(const FormBase& form);
 int height_of(const FormBase& form);
 

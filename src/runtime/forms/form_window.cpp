@@ -2,10 +2,10 @@
 
 #include <QCloseEvent>
 #include <QMainWindow>
-#include <QMenuBar>
 #include <algorithm>
 
 #include "runtime/forms/control_set.h"
+#include "runtime/forms/menu_bar_buttons.h"
 #include "runtime/forms/twips.h"
 
 namespace runtime::forms {
@@ -58,7 +58,8 @@ FormWindow::FormWindow(const FormDesign& design, QWidget* parent)
   scroll_->setWidget(surface_);
   setWidget(scroll_);
   const QRect client = pixels({0, 0, design.client_width, design.client_height});
-  resize(client.size() + 2 * QSize(margin, margin) + frame);
+  normal_size_ = client.size() + 2 * QSize(margin, margin) + frame;
+  resize(normal_size_);
 }
 
 void FormWindow::fit(const ControlSet& controls) {
@@ -75,26 +76,31 @@ void FormWindow::fit(const ControlSet& controls) {
   surface_->setMinimumSize(extent);
 }
 
-/// A maximized child puts its icon and its window buttons, a close box among them, beside the menu.
-void FormWindow::hide_buttons_in_menu_bar() {
+void FormWindow::maximize() {
+  showMaximized();
+  maximized_by_code_ = true;
+  fit_menu_bar();
+}
+
+/// What the program has maximised stays so; what the analyst has maximised has a way back.
+void FormWindow::fit_menu_bar() {
   const auto* main_window = qobject_cast<QMainWindow*>(window());
   if (main_window == nullptr) return;
-  for (const Qt::Corner corner : {Qt::TopLeftCorner, Qt::TopRightCorner}) {
-    QWidget* buttons = main_window->menuBar()->cornerWidget(corner);
-    if (buttons != nullptr) buttons->hide();
-  }
+  show_in_menu_bar(*main_window, maximized_by_code_ ? MenuBarButtons::none : MenuBarButtons::restore);
 }
 
 void FormWindow::changeEvent(QEvent* event) {
   QMdiSubWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) hide_buttons_in_menu_bar();
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (!isMaximized()) maximized_by_code_ = false;
+  if (isMaximized()) fit_menu_bar();
 }
 
 void FormWindow::showEvent(QShowEvent* event) {
   // Qt adds the system menu to any window that can be minimised, and the style draws a close box for it.
   overrideWindowFlags(windowFlags() & ~Qt::WindowSystemMenuHint);
   QMdiSubWindow::showEvent(event);
-  hide_buttons_in_menu_bar();
+  if (isMaximized()) fit_menu_bar();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -103,6 +109,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
   QMdiSubWindow::resizeEvent(event);
+  if (!isMinimized() && !isMaximized()) normal_size_ = size();
   emit resized();
 }
 

@@ -17,6 +17,11 @@ class FormWindow : public QMdiSubWindow {
   FormWindow(const FormDesign& design, QWidget* parent);
 
   QWidget* surface() const { return surface_; }
+  /// Its size, and that of its normal state while it is an icon.
+  QSize size_without_icon() const { return isMinimized() ? normal_size_ : size(); }
+  /// Lets it fill the main window for good: unlike a form that the analyst maximised by its title bar it has
+  /// no button that restores it.
+  void maximize();
   /// Makes the surface large enough for every visible control, so that a small window scrolls to all of them,
   /// and lets no control take the focus that lies wholly under another.
   void fit(const ControlSet& controls);
@@ -31,10 +36,12 @@ class FormWindow : public QMdiSubWindow {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void hide_buttons_in_menu_bar();
+  void fit_menu_bar();
 
   QScrollArea* scroll_;
   QWidget* surface_;
+  QSize normal_size_;
+  bool maximized_by_code_ = false;
 };
 
 }  // namespace runtime::forms

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStorageInfo>
+#include <algorithm>
 
 #include "runtime/fault.h"
 #include "runtime/forms/twips.h"
@@ -28,29 +29,36 @@ QComboBox& combo_of(const Control& control) {
 /// when an entry is opened: by two clicks on every desktop, also on one that opens files by a single one.
 class DirectoryList : public QListWidget {
  public:
-  DirectoryList(QWidget* parent, std::function<void()> lost, std::function<void()> opened)
-      : QListWidget(parent), lost_(std::move(lost)), opened_(std::move(opened)) {}
+  explicit DirectoryList(QWidget* parent) : QListWidget(parent) {}
+
+  std::function<void()> when_lost;
+  std::function<void()> when_opened;
+  /// What is below the directories may have changed since the list was read.
+  std::function<void()> read_anew;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-      opened_();
+      when_opened();
+    } else if (event->matches(QKeySequence::Refresh)) {
+      read_anew();
     } else {
       QListWidget::keyPressEvent(event);
     }
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     QListWidget::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr) opened_();
+    if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr) when_opened();
   }
   void focusOutEvent(QFocusEvent* event) override {
     QListWidget::focusOutEvent(event);
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) lost_();
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+      when_lost();
   }
-
- private:
-  std::function<void()> lost_;
-  std::function<void()> opened_;
+  void showEvent(QShowEvent* event) override {
+    QListWidget::showEvent(event);
+    read_anew();
+  }
 };
 
 QStringList ancestors(const QString& path) {
@@ -136,9 +144,11 @@ bool DriveListBox::is_drive_of(const std::string& path) const {
 }
 
 QWidget* DirListBox::make_widget(QWidget* parent) {
-  return new DirectoryList(
-      parent, [this] { fire_from_person(Event::LostFocus); },
-      [this] { desktop_event([this] { set_path(highlighted()); }); });
+  auto* list = new DirectoryList(parent);
+  list->when_lost = [this] { fire_from_person(Event::LostFocus); };
+  list->when_opened = [this] { desktop_event([this] { set_path(highlighted()); }); };
+  list->read_anew = [this] { read_anew(); };
+  return list;
 }
 
 void DirListBox::created(const ControlDesign&) {
@@ -155,6 +165,14 @@ void DirListBox::set_path(const std::string& path) {
   path_ = absolute;
   fill();
   fire(Event::Change);
+}
+
+/// The highlight stays on its directory as long as that is there.
+void DirListBox::read_anew() {
+  const std::string before = highlighted();
+  fill();
+  const auto row = std::find(rows_.begin(), rows_.end(), before);
+  if (row != rows_.end()) list_of(*this).setCurrentRow(static_cast<int>(row - rows_.begin()));
 }
 
 std::string DirListBox::highlighted() const {

@@ -48,7 +48,7 @@ class DriveListBox : public Control {
 };
 
 /// The directories below a path, with the path's own line of ancestors above them. A double click or Enter
-/// opens the highlighted one.
+/// opens the highlighted one. Read anew whenever it comes to be seen, and by F5.
 class DirListBox : public Control {
  public:
   using Control::Control;
@@ -60,12 +60,15 @@ class DirListBox : public Control {
   /// The highlighted directory's path, or the list's own path when none is highlighted.
   std::string highlighted() const;
 
+  void form_shown() override { read_anew(); }
+
  protected:
   QWidget* make_widget(QWidget* parent) override;
   void created(const ControlDesign& design) override;
 
  private:
   void fill();
+  void read_anew();
 
   std::string path_;
   std::vector<std::string> rows_;

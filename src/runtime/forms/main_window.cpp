@@ -1,6 +1,7 @@
 #include "runtime/forms/main_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
@@ -77,6 +78,9 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::build_menu(std::span<const MenuDesign> menu) {
+  // A bar that the desktop shows at a place of its own has no room for an item without a menu, such as the
+  // one that ends the program.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   std::vector<QMenu*> open_menus;  // the submenu of each level above the row at hand
   for (std::size_t row = 0; row < menu.size(); ++row) {
     const MenuDesign& design = menu[row];

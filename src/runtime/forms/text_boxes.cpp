@@ -20,6 +20,7 @@ class MaskedLineEdit : public QLineEdit {
 
   /// A number that is longer than the mask is shown whole: a part of it would be another number.
   void show_number(const QString& number) {
+    const QSignalBlocker blocker(this);
     const auto beyond = std::max<qsizetype>(0, number.size() - pattern.size());
     setInputMask(pattern + QString(beyond, u'0') + QStringLiteral(";_"));
     setText(number);
@@ -40,13 +41,6 @@ class MaskedLineEdit : public QLineEdit {
   }
 };
 
-/// A path may be longer than its box, so the tool tip holds all of it.
-void show_text(QLineEdit& edit, const std::string& text) {
-  const QSignalBlocker blocker(&edit);
-  edit.setText(qt(text));
-  edit.setToolTip(edit.text());
-}
-
 /// A disabled box still shows a path that must be read, so its text is dimmed less than the desktop would.
 void keep_readable_when_disabled(QWidget& widget) {
   QPalette palette = widget.palette();
@@ -61,11 +55,25 @@ void keep_readable_when_disabled(QWidget& widget) {
 QWidget* TextBox::make_widget(QWidget* parent) {
   auto* edit = new QLineEdit(parent);
   keep_readable_when_disabled(*edit);
-  QObject::connect(edit, &QLineEdit::textEdited, edit, [this] {
-    changed = true;
-    fire_from_person(Event::Change);
-  });
+  // What an assistive tool puts in is no edit to Qt. The program's own changes block the signal.
+  QObject::connect(edit, &QLineEdit::textChanged, edit, [this] { changed_by_a_person(); });
   return edit;
+}
+
+void TextBox::changed_by_a_person() {
+  // A box that takes no key must not take what comes by another way.
+  if (locked() || !is_enabled()) return show(shown_);
+  shown_ = text();
+  changed = true;
+  fire_from_person(Event::Change);
+}
+
+/// A path may be longer than its box, so the tool tip holds all of it.
+void TextBox::show(const std::string& text) {
+  const QSignalBlocker blocker(&edit());
+  shown_ = text;
+  edit().setText(qt(text));
+  edit().setToolTip(edit().text());
 }
 
 QLineEdit& TextBox::edit() const {
@@ -78,7 +86,7 @@ std::string TextBox::text() const {
 
 void TextBox::set_text(const std::string& text) {
   if (text == this->text()) return;
-  show_text(edit(), text);
+  show(text);
   changed = true;
   fire(Event::Change);
 }
@@ -100,18 +108,19 @@ void TextBox::set_bold(bool bold) {
 }
 
 void TextBox::show_value(const Value& value) {
-  show_text(edit(), text::joined(value));
+  show(text::joined(value));
   changed = false;
 }
 
 void TextBox::show_caption(const std::string& caption) {
   const QSignalBlocker blocker(&edit());
+  shown_ = caption;
   edit().setText(qt(caption));
 }
 
 QWidget* MaskEdBox::make_widget(QWidget* parent) {
   auto* edit = new MaskedLineEdit(parent);
-  QObject::connect(edit, &QLineEdit::textEdited, edit, [this] {
+  QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
     changed = true;
     fire_from_person(Event::Change);
   });
@@ -133,7 +142,6 @@ std::string MaskEdBox::text() const {
 }
 
 void MaskEdBox::show_value(const Value& value) {
-  const QSignalBlocker blocker(&edit());
   static_cast<MaskedLineEdit&>(edit()).show_number(qt(text::joined(value)));
   changed = false;
 }

@@ -31,6 +31,10 @@ class TextBox : public Control, public Bound {
 
  private:
   QLineEdit& edit() const;
+  void show(const std::string& text);
+  void changed_by_a_person();
+
+  std::string shown_;
 };
 
 /// A number box with a mask of "#", each a place for one digit. The prompt "_" stands where no digit does.

@@ -75,6 +75,16 @@ TEST_F(TextLink, appends_to_the_file) {
   EXPECT_EQ(bytes(), "         0     11.27\r\n         1     11.35\r\n         7     13.05\r\n");
 }
 
+TEST_F(TextLink, finds_its_file_in_a_directory_with_a_semicolon_in_its_name) {
+  std::filesystem::create_directory(directory / "a; b;c");
+  put("a; b;c/schema.ini", pairs_to_read);
+  put("a; b;c/trips.csv", "1,2,3\r\n");
+  database.AppendTableDef({"csvtable", "text; database=" + (directory / "a; b;c").string(), "trips.csv"});
+  database.Execute("CREATE TABLE sosec (Origin integer, Destination integer, Mining DOUBLE)");
+  database.Execute("insert into sosec select * from csvtable");
+  EXPECT_EQ(all_of("sosec"), "1 2 3|");
+}
+
 TEST_F(TextLink, takes_any_line_end_and_blanks_around_numbers) {
   EXPECT_EQ(read(pairs_to_read, "1,2,3.5\n  4\t, +5 ,  -6e1  \r\n7,8"), "1 2 3.5|4 5 -60|7 8 -|");
 }

@@ -2,6 +2,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include "small_form.h"
@@ -120,6 +121,93 @@ TEST_F(Boxes, belong_to_the_main_window) {
   EXPECT_EQ(parent, &window);
 }
 
+/// What a key does to a box, wherever in it the focus is.
+class BoxKeys : public Boxes {
+ protected:
+  /// Shows a question and does something to it; gives the reply, or "stays" with the reply of a No after it.
+  std::string question_after(const std::function<void(QMessageBox&)>& act) {
+    bool stays = false;
+    analyst.will_do([&](QDialog& box) {
+      QApplication::setActiveWindow(&box);
+      act(*qobject_cast<QMessageBox*>(&box));
+      stays = box.isVisible();
+      if (stays) QTest::mouseClick(qobject_cast<QMessageBox*>(&box)->button(QMessageBox::No), Qt::LeftButton);
+    });
+    const int reply = desktop.MsgBox("Words", rf::yes_no);
+    return std::string(stays ? "stays, then " : "") + (reply == rf::reply_yes ? "yes" : "no");
+  }
+  static void press_in(QWidget& box, Qt::Key key) {
+    QWidget* focused = box.focusWidget() == nullptr ? &box : box.focusWidget();
+    QTest::keyClick(focused, key);
+  }
+  void press_in_next_box(Qt::Key key) {
+    analyst.will_do([key](QDialog& box) {
+      QApplication::setActiveWindow(&box);
+      press_in(box, key);
+    });
+  }
+};
+
+TEST_F(BoxKeys, enter_answers_a_question_with_yes) {
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+    EXPECT_EQ(question_after([key](QMessageBox& box) { press_in(box, key); }), "yes");
+  }
+  EXPECT_EQ(question_after([](QMessageBox& box) {
+              EXPECT_TRUE(static_cast<QAbstractButton*>(box.defaultButton()) == box.button(QMessageBox::Yes));
+              press_in(box, Qt::Key_Space);
+            }),
+            "yes");
+}
+
+TEST_F(BoxKeys, enter_on_the_other_answer_gives_that_one) {
+  EXPECT_EQ(question_after([](QMessageBox& box) {
+              box.button(QMessageBox::No)->setFocus();
+              press_in(box, Qt::Key_Return);
+            }),
+            "no");
+}
+
+TEST_F(BoxKeys, escape_and_a_close_request_leave_a_question_open) {
+  EXPECT_EQ(question_after([](QMessageBox& box) { press_in(box, Qt::Key_Escape); }), "stays, then no");
+  EXPECT_EQ(question_after([](QMessageBox& box) { box.close(); }), "stays, then no");
+}
+
+TEST_F(BoxKeys, enter_and_escape_and_a_close_request_end_a_message) {
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+    press_in_next_box(key);
+    EXPECT_EQ(desktop.MsgBox("Words"), rf::reply_ok);
+  }
+  analyst.will_do([](QDialog& box) { box.close(); });
+  EXPECT_EQ(desktop.MsgBox("Words", rf::exclamation), rf::reply_ok);
+  EXPECT_EQ(analyst.boxes().size(), 4U);
+}
+
+TEST_F(BoxKeys, enter_and_escape_end_a_report_and_the_program_goes_on) {
+  for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+    press_in_next_box(key);
+    as_handler([] { throw runtime::Fault(6); });
+  }
+  bool went_on = false;
+  as_handler([&] { went_on = true; });
+  EXPECT_TRUE(went_on);
+  EXPECT_THAT(analyst.texts(),
+              ElementsAre("Run-time error '6':\n\nOverflow", "Run-time error '6':\n\nOverflow"));
+}
+
+TEST_F(BoxKeys, enter_takes_a_typed_line_and_escape_drops_it) {
+  const auto answer = [this](Qt::Key key) {
+    analyst.will_do([key](QDialog& box) {
+      QApplication::setActiveWindow(&box);
+      QTest::keyClicks(box.focusWidget(), QStringLiteral("Origin"));
+      press_in(box, key);
+    });
+    return desktop.InputBox("Words");
+  };
+  EXPECT_EQ(answer(Qt::Key_Return), "Origin");
+  EXPECT_EQ(answer(Qt::Key_Enter), "Origin");
+  EXPECT_EQ(answer(Qt::Key_Escape), "");
+}
+
 using RuntimeErrorReport = Boxes;
 
 TEST_F(RuntimeErrorReport, tells_number_and_words_and_the_program_goes_on) {
@@ -222,6 +310,15 @@ TEST_F(RuntimeErrorReport, the_error_object_is_empty_after_each_handler) {
   as_handler([&] { desktop.err.set(runtime::Fault(6)); });
   EXPECT_EQ(desktop.err.number, 0);
   EXPECT_EQ(desktop.err.description, "");
+}
+
+TEST_F(RuntimeErrorReport, leaves_the_normal_pointer_behind) {
+  analyst.will_press("OK");
+  as_handler([this] {
+    desktop.set_pointer(rf::Desktop::Pointer::hourglass);
+    throw runtime::Fault(6);
+  });
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(RuntimeErrorReport, is_not_shown_for_a_handler_without_a_fault) {

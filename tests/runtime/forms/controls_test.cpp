@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "assistive_tool.h"
 #include "runtime/forms/twips.h"
 #include "small_form.h"
 
@@ -14,6 +15,7 @@ using rf::Event;
 using rf::Kind;
 using rf::no_index;
 using testing_aids::fault_of;
+using testing_aids::put_by_assistive_tool;
 using testing_aids::row;
 using testing_aids::SmallForm;
 
@@ -151,6 +153,37 @@ TEST_F(Controls, every_key_in_a_text_box_is_a_change) {
   form.Show();
   analyst.type("Text1(0)", "abc");
   EXPECT_EQ(form.heard.times, 3);
+}
+
+TEST_F(Controls, what_an_assistive_tool_puts_into_a_text_box_is_a_change) {
+  hear("Text1", Event::Change);
+  form.Show();
+  put_by_assistive_tool(*analyst.find("Text1(0)"), "abc");
+  EXPECT_EQ(form->Text1(0).text(), "abc");
+  EXPECT_TRUE(form->Text1(0).changed);
+  EXPECT_EQ(form.heard.times, 1);
+}
+
+TEST_F(Controls, a_locked_and_a_disabled_box_take_nothing_from_an_assistive_tool) {
+  hear("Text1", Event::Change);
+  form.Show();
+  form->Text1(0).show_value("results/stored.txt");
+  for (const bool locked : {true, false}) {
+    form->Text1(0).set_locked(locked);
+    form->Text1(0).set_enabled(locked);
+    put_by_assistive_tool(*analyst.find("Text1(0)"), "abc");
+    EXPECT_EQ(form->Text1(0).text(), "results/stored.txt");
+    EXPECT_FALSE(form->Text1(0).changed);
+  }
+  EXPECT_EQ(form.heard.times, 0);
+}
+
+TEST_F(Controls, what_code_shows_in_a_box_is_no_change) {
+  hear("Text1", Event::Change);
+  form->Text1(0).show_value("stored");
+  form->Text1(0).set_caption("as designed");
+  EXPECT_FALSE(form->Text1(0).changed);
+  EXPECT_EQ(form.heard.times, 0);
 }
 
 TEST_F(Controls, a_locked_box_takes_no_key_and_a_disabled_button_no_click) {

@@ -1,9 +1,14 @@
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QListView>
+#include <QTest>
 #include <filesystem>
 #include <fstream>
+#include <set>
 
 #include "small_form.h"
+#include "typed_file_name.h"
 
 namespace {
 
@@ -38,6 +43,20 @@ class FileDialog : public testing_aids::SmallFormTest {
   void cancel() {
     analyst.will_cancel_file();
     dialog().ShowOpen();
+  }
+
+  /// The names in the list, which a thread of the dialog's own reads.
+  static std::set<std::string> listed(QDialog& box) {
+    auto* list = box.findChild<QListView*>(QStringLiteral("listView"));
+    std::set<std::string> names;
+    for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+      names.insert(list->model()->index(row, 0, list->rootIndex()).data().toString().toStdString());
+    }
+    return names;
+  }
+  static void expect_listed(QDialog& box, const std::set<std::string>& names) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed(box) == names; }));
+    EXPECT_EQ(listed(box), names);
   }
 
   SmallForm form{desktop, {row("cdbox1", no_index, Kind::CommonDialog)}};
@@ -123,6 +142,80 @@ TEST_F(FileDialog, takes_a_typed_name_that_does_not_exist) {
   analyst.will_choose_file(path("results/nosuch2.txt"));
   dialog().ShowOpen();
   EXPECT_EQ(dialog().file_name, path("results/nosuch2.txt"));
+}
+
+TEST_F(FileDialog, gives_a_typed_path_without_dots_that_lead_about) {
+  dialog().init_dir = path("sample");
+  choose("../results/a.txt");
+  EXPECT_EQ(dialog().file_name, path("results/a.txt"));
+  choose("./a.txt");
+  EXPECT_EQ(dialog().file_name, path("sample/a.txt"));
+  choose(path("results/../sample/./b.txt"));
+  EXPECT_EQ(dialog().file_name, path("sample/b.txt"));
+}
+
+TEST_F(FileDialog, enter_takes_the_typed_name_and_escape_cancels) {
+  dialog().init_dir = path("results");
+  dialog().cancel_error = true;
+  for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+    analyst.will_do([key](QDialog& box) {
+      QApplication::setActiveWindow(&box);
+      auto& name = testing_aids::file_name_box(box);
+      name.setFocus();
+      QTest::keyClicks(&name, QStringLiteral("b.txt"));
+      QTest::keyClick(&name, key);
+    });
+    EXPECT_EQ(fault_of([this] { dialog().ShowSave(); }), key == Qt::Key_Return ? 0 : 32755);
+    EXPECT_EQ(dialog().file_name, path("results/b.txt"));
+  }
+}
+
+TEST_F(FileDialog, a_typed_wildcard_narrows_the_list_and_the_dialog_stays) {
+  dialog().init_dir = path("results");
+  for (const char* name : {"a.txt", "b.txt", "a.dat", "\u00e4 b.dat", "c"}) {
+    app.put_file(std::string("results/") + name, "x");
+  }
+  std::filesystem::create_directory(app.file("results/below"));
+  dialog().filter = "All files (*.*)|*.*";
+  analyst.will_do([](QDialog& box) {
+    expect_listed(box, {"a.dat", "a.txt", "b.txt", "below", "c", "\u00e4 b.dat"});
+    testing_aids::type_file_name(box, "*.txt");
+    expect_listed(box, {"a.txt", "b.txt", "below"});
+    testing_aids::type_file_name(box, "a.???");
+    expect_listed(box, {"a.dat", "a.txt", "below"});
+    testing_aids::type_file_name(box, "\u00e4 *.DAT");
+    expect_listed(box, {"below", "\u00e4 b.dat"});
+    testing_aids::type_file_name(box, "b.txt");
+  });
+  dialog().ShowSave();
+  EXPECT_EQ(dialog().file_name, path("results/b.txt"));
+  EXPECT_EQ(analyst.boxes().size(), 1U);
+}
+
+TEST_F(FileDialog, a_typed_wildcard_behind_a_directory_lists_what_is_there) {
+  app.put_file("results/a.txt", "x");
+  app.put_file("results/a.dat", "x");
+  analyst.will_do([](QDialog& box) {
+    testing_aids::type_file_name(box, "sample/../results/*.txt");
+    expect_listed(box, {"a.txt"});
+    EXPECT_EQ(testing_aids::file_name_box(box).text(), "*.txt");
+    testing_aids::type_file_name(box, "a.txt");
+  });
+  dialog().ShowSave();
+  EXPECT_EQ(dialog().file_name, path("results/a.txt"));
+}
+
+TEST_F(FileDialog, a_typed_wildcard_behind_a_directory_that_is_not_there_is_told) {
+  dialog().init_dir = path("results");
+  analyst.will_do([this](QDialog& box) {
+    analyst.will_press("OK");
+    testing_aids::type_file_name(box, "nosuch/*.txt");
+    EXPECT_EQ(last_box(), "There is no directory " + path("results/nosuch") + ".");
+    EXPECT_TRUE(box.isVisible());
+    box.reject();
+  });
+  dialog().ShowSave();
+  EXPECT_EQ(dialog().file_name, "");
 }
 
 TEST_F(FileDialog, asks_nothing_before_an_existing_file_is_named_for_saving) {

@@ -7,6 +7,8 @@
 #include <QStyleOption>
 #include <QTest>
 
+#include "runtime/forms/form_size.h"
+#include "runtime/forms/twips.h"
 #include "small_form.h"
 
 namespace {
@@ -141,6 +143,28 @@ TEST_F(FormWindows, a_maximised_form_puts_no_window_buttons_beside_the_menu) {
   }
 }
 
+TEST_F(FormWindows, a_form_that_the_analyst_maximised_is_restored_by_the_one_button_beside_the_menu) {
+  form.Show();
+  for (int turn = 0; turn < 2; ++turn) {
+    const QSize size = frame_of(form).size();
+    frame_of(form).showMaximized();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window.menuBar()->cornerWidget(Qt::TopLeftCorner) == nullptr ||
+                !window.menuBar()->cornerWidget(Qt::TopLeftCorner)->isVisible());
+    QWidget* button = window.menuBar()->cornerWidget(Qt::TopRightCorner);
+    ASSERT_TRUE(button != nullptr && button->isVisible());
+    for (int x = 0; x < button->width(); ++x) {
+      if (form.loaded() && frame_of(form).isMaximized()) {
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(x, button->height() / 2));
+      }
+    }
+    EXPECT_FALSE(frame_of(form).isMaximized());
+    EXPECT_FALSE(frame_of(form).isMinimized());
+    EXPECT_EQ(frame_of(form).size(), size);
+    EXPECT_TRUE(analyst.sees("Small"));
+  }
+}
+
 TEST_F(FormWindows, of_several_the_one_used_last_is_active_again_after_an_unload) {
   SmallForm first(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "First");
   SmallForm second(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Second");
@@ -170,6 +194,44 @@ TEST_F(FormWindows, showing_a_form_normal_keeps_another_one_maximised) {
   form.Show();
   EXPECT_FALSE(frame_of(form).isMaximized());
   EXPECT_TRUE(frame_of(other).isMaximized());
+}
+
+TEST_F(FormWindows, a_load_brings_a_form_to_the_front_and_back_from_its_icon) {
+  SmallForm other(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Other");
+  form.Show();
+  other.Show();
+  form.Load();
+  EXPECT_TRUE(desktop.mdi_area->activeSubWindow() == &frame_of(form));
+  EXPECT_TRUE(desktop.mdi_area->subWindowList(QMdiArea::StackingOrder).back() == &frame_of(form));
+  other.Show();
+  frame_of(form).showMinimized();
+  form.Load();
+  EXPECT_FALSE(frame_of(form).isMinimized());
+  EXPECT_TRUE(desktop.mdi_area->activeSubWindow() == &frame_of(form));
+}
+
+TEST_F(FormWindows, an_icon_tells_the_size_of_the_window_that_it_stands_for) {
+  form.Show();
+  frame_of(form).resize(420, 330);
+  const int width = form.width();
+  const int height = rf::height_of(form);
+  EXPECT_EQ(width, rf::twips(420));
+  frame_of(form).showMinimized();
+  QCoreApplication::processEvents();
+  ASSERT_LT(frame_of(form).height(), 330);
+  EXPECT_EQ(form.width(), width);
+  EXPECT_EQ(rf::width_of(form), width);
+  EXPECT_EQ(rf::height_of(form), height);
+  frame_of(form).showMaximized();
+  const int wide = form.width();
+  EXPECT_GT(wide, width);
+  frame_of(form).showMinimized();
+  EXPECT_EQ(form.width(), width);
+}
+
+TEST_F(FormWindows, the_menu_bar_stays_in_the_window_on_every_desktop) {
+  EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
+  EXPECT_TRUE(window.menuBar()->isVisible());
 }
 
 TEST_F(FormWindows, a_resized_form_hears_of_it) {

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "assistive_tool.h"
 #include "grid_test.h"
 #include "small_disk.h"
 
@@ -41,6 +42,27 @@ TEST_F(GridEdit, typing_starts_an_edit_that_replaces_the_value) {
   EXPECT_TRUE(grid().current_cell_modified());
   EXPECT_TRUE(grid().edit_active());
   EXPECT_EQ(std::get<double>(grid().column_value(2)), 7.5);
+}
+
+TEST_F(GridEdit, what_an_assistive_tool_puts_into_the_open_cell_is_stored) {
+  go_to(0, 2);
+  press(Qt::Key_F2);
+  EXPECT_FALSE(grid().current_cell_modified());
+  testing_aids::put_by_assistive_tool(editor(), "7.5");
+  EXPECT_TRUE(grid().current_cell_modified());
+  press(Qt::Key_Down);
+  EXPECT_THAT(trips(), ElementsAre("7.5", "null", "0.5", "1.0e+20"));
+}
+
+TEST_F(GridEdit, a_cell_that_is_opened_and_left_changes_nothing) {
+  go_to(0, 3);
+  press(Qt::Key_F2);
+  press(Qt::Key_Escape);
+  go_to(3, 2);
+  press(Qt::Key_F2);
+  EXPECT_FALSE(grid().current_cell_modified());
+  press(Qt::Key_Up);
+  EXPECT_EQ(trips(), untouched);
 }
 
 TEST_F(GridEdit, stays_in_the_cell_and_out_of_the_table_when_the_focus_goes_to_a_button) {

@@ -1,9 +1,11 @@
 // Keys, clicks and what the grid tells its form.
 #include <QAbstractItemModelTester>
 #include <QAccessible>
+#include <QDialog>
 #include <QToolButton>
 #include <map>
 
+#include "assistive_tool.h"
 #include "grid_test.h"
 #include "runtime/forms/twips.h"
 
@@ -145,6 +147,22 @@ TEST_F(GridKeys, there_is_a_current_cell_wherever_the_grid_is_scrolled_to) {
   for (int child = 0; child < accessible->childCount(); ++child) {
     ASSERT_NE(accessible->child(child), nullptr);
   }
+}
+
+TEST_F(GridKeys, an_empty_result_can_be_read_by_an_assistive_tool_and_filled_again) {
+  view().setFocus();
+  as_handler([&] {
+    auto& records = form->Data1(0).recordset();
+    records.set_Filter("Origin = 77");
+    form->Data1(0).set_recordset(records.OpenRecordset());
+  });
+  EXPECT_EQ(foot(), "No rows");
+  const auto read = testing_aids::read_by_assistive_tool(view());
+  EXPECT_THAT(read, ::testing::IsSupersetOf({"Pairs", "Origin", "name"}));
+  as_handler([&] {
+    form->Data1(0).set_recordset(desktop.workspace.OpenDatabase("zelmor.mdb").OpenRecordset("pairs"));
+  });
+  EXPECT_THAT(testing_aids::read_by_assistive_tool(view()), ::testing::Contains("14.51"));
 }
 
 TEST_F(GridKeys, the_wheel_scrolls_the_table) {
@@ -328,6 +346,71 @@ TEST_F(GridGoTo, tells_when_there_is_no_such_row) {
   go({{"GoToRow", "10001"}}, true);
   EXPECT_EQ(last_box(), "There is no row 10001. The last row is 10000.");
   EXPECT_EQ(grid().current_row(), 0);
+}
+
+TEST_F(GridGoTo, no_such_row_does_not_speak_of_what_is_being_edited) {
+  go_to(0, 2);
+  type("7.5");
+  for (const auto& [line, text, words] :
+       {std::tuple("GoToRow", "10001", "There is no row 10001. The last row is 10000."),
+        {"GoToRow", "0", "There is no row 0. The last row is 10000."}}) {
+    go({{line, text}}, true);
+    EXPECT_EQ(last_box(), words);
+  }
+  go({{"GoToKey(0)", "101"}, {"GoToKey(1)", "1"}}, true);
+  EXPECT_EQ(last_box(), "There is no row with Origin 101, Destination 1.");
+  EXPECT_EQ(analyst.last_box().icon, 2) << "an exclamation mark";
+  EXPECT_EQ(editor().text(), "7.5");
+  press(Qt::Key_Down);
+  EXPECT_THAT(app.rows("select trips from pairs limit 1"), ::testing::ElementsAre("7.5"));
+}
+
+TEST_F(GridGoTo, one_key_of_two_is_not_enough_and_the_box_says_which_is_missing) {
+  analyst.will_do([this](QDialog& box) {
+    const auto line = [&box](const char* name) { return box.findChild<QLineEdit*>(QLatin1String(name)); };
+    QTest::keyClicks(line("GoToKey(1)"), QStringLiteral("8"));
+    analyst.will_press("OK");
+    QTest::keyClick(line("GoToKey(1)"), Qt::Key_Return);
+    EXPECT_EQ(last_box(), "Enter a number for Origin, too, or a row number.");
+    ASSERT_TRUE(box.isVisible());
+    EXPECT_TRUE(box.focusWidget() == line("GoToKey(0)"));
+    QTest::keyClicks(line("GoToKey(0)"), QStringLiteral("70"));
+    QTest::keyClick(line("GoToKey(0)"), Qt::Key_Return);
+  });
+  press(Qt::Key_G, Qt::ControlModifier);
+  EXPECT_EQ(grid().current_row(), 6907);
+}
+
+TEST_F(GridGoTo, one_key_and_a_row_number_go_to_the_row_number) {
+  go({{"GoToKey(1)", "8"}, {"GoToRow", "7"}});
+  EXPECT_EQ(grid().current_row(), 6);
+}
+
+TEST_F(GridGoTo, nothing_entered_goes_nowhere) {
+  go({});
+  EXPECT_EQ(grid().current_row(), 0);
+}
+
+TEST_F(GridGoTo, the_row_stands_in_the_middle) {
+  const auto place = [this] { return view().visualRect(view().currentIndex()).center().y(); };
+  const int middle = view().viewport()->height() / 2;
+  const int row_height = view().rowHeight(0);
+  for (const char* row : {"5001", "5003", "4000", "9000"}) {
+    go({{"GoToRow", row}});
+    EXPECT_NEAR(place(), middle, row_height) << row;
+  }
+  go({{"GoToKey(0)", "70"}, {"GoToKey(1)", "8"}});
+  EXPECT_NEAR(place(), middle, row_height);
+  EXPECT_EQ(view().currentIndex().siblingAtColumn(0).data().toString(), "70");
+  EXPECT_EQ(view().currentIndex().siblingAtColumn(1).data().toString(), "8");
+  go({{"GoToRow", "2"}});
+  EXPECT_THAT(drawn(), ::testing::StartsWith("Origin | Destination | trips | cost | name\n"
+                                             "1 | 1 | 0 |  | \n"
+                                             "[1] | 2 | 1 |  | \n"
+                                             "1 | 3 | 2 |  | \n"));
+  go({{"GoToRow", "10000"}});
+  EXPECT_GT(place(), middle);
+  EXPECT_EQ(foot(), "Row 10000 of 10000");
 }
 
 TEST_F(GridGoTo, a_typed_text_that_is_refused_keeps_its_row) {

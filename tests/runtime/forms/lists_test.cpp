@@ -6,6 +6,8 @@
 #include <QListWidget>
 #include <QTest>
 
+#include "runtime/forms/form_size.h"
+#include "runtime/forms/form_window.h"
 #include "small_form.h"
 
 namespace {
@@ -205,6 +207,41 @@ TEST_F(DirectoryLists, report_a_directory_that_is_gone_when_it_is_opened) {
   double_click("Beta");
   EXPECT_EQ(last_box(), "Run-time error '76':\n\nPath not found: " + in_app("tree/Beta"));
   EXPECT_EQ(form->Dir1.path(), in_app("tree"));
+}
+
+TEST_F(DirectoryLists, are_read_anew_by_f5_and_keep_the_highlight) {
+  click("Beta");
+  std::filesystem::create_directory(app.file("tree/aaa"));
+  directories().setFocus();
+  QTest::keyClick(&directories(), Qt::Key_F5);
+  EXPECT_THAT(from_own_directory(), ElementsAre("tree", "aaa", "alpha", "*Beta"));
+  EXPECT_EQ(form->Dir1.path(), in_app("tree"));
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(DirectoryLists, are_read_anew_when_their_form_is_brought_to_the_front) {
+  click("alpha");
+  testing_aids::SmallForm other(desktop, {row("Command1", 0, Kind::CommandButton, "Go")}, "Other");
+  other.Show();
+  std::filesystem::create_directory(app.file("tree/new"));
+  form.Load();
+  EXPECT_THAT(from_own_directory(), ElementsAre("tree", "*alpha", "Beta", "new"));
+  EXPECT_THAT(heard, ::testing::Not(::testing::Contains("Dir1 changed")));
+}
+
+TEST_F(DirectoryLists, are_read_anew_when_they_come_to_be_seen) {
+  click("alpha");
+  rf::window_of(form).showMinimized();
+  std::filesystem::create_directory(app.file("tree/new"));
+  std::filesystem::remove(app.file("tree/Beta"));
+  rf::window_of(form).showNormal();
+  EXPECT_THAT(from_own_directory(), ElementsAre("tree", "*alpha", "new"));
+  heard.clear();
+  form.hide();
+  std::filesystem::remove_all(app.file("tree/alpha"));
+  form.Show();
+  EXPECT_THAT(from_own_directory(), ElementsAre("*tree", "new"));
+  EXPECT_EQ(form->Dir1.highlighted(), in_app("tree"));
 }
 
 TEST_F(DirectoryLists, tell_that_the_focus_went_before_the_button_hears_its_click) {

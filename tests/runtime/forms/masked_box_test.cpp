@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "assistive_tool.h"
 #include "small_form.h"
 
 namespace {
@@ -98,6 +99,23 @@ TEST_F(MaskedBox, a_click_behind_the_digits_still_takes_what_is_typed) {
   QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 4, box->height() / 2));
   QTest::keyClicks(box, QStringLiteral("7"));
   EXPECT_EQ(form->MaskEdBox1.text(), "247_");
+}
+
+TEST_F(MaskedBox, what_an_assistive_tool_puts_in_is_stored) {
+  show_with("24");
+  testing_aids::put_by_assistive_tool(*analyst.find("MaskEdBox1"), "37");
+  EXPECT_EQ(form->MaskEdBox1.text(), "37__");
+  unload();
+  EXPECT_THAT(stored(), ElementsAre("37"));
+}
+
+TEST_F(MaskedBox, what_the_program_shows_in_it_is_not_stored) {
+  show_with("24");
+  form->MaskEdBox1.show_value(std::int64_t{40000});
+  form->MaskEdBox1.set_caption("##");
+  EXPECT_FALSE(form->MaskEdBox1.changed);
+  unload();
+  EXPECT_THAT(stored(), ElementsAre("24"));
 }
 
 TEST_F(MaskedBox, nothing_typed_stores_nothing) {

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 
 namespace runtime::forms::grid {
 
@@ -15,7 +16,10 @@ CellEditor::CellEditor(QWidget* parent) : QLineEdit(parent) {
 
 void CellEditor::show_edit(const QString& text, bool is_text, const QRect& place) {
   setAlignment(Qt::AlignVCenter | (is_text ? Qt::AlignLeft : Qt::AlignRight));
-  if (this->text() != text) setText(text);
+  if (this->text() != text) {
+    const QSignalBlocker blocker(this);
+    setText(text);
+  }
   setGeometry(place);
   if (isHidden()) {
     show();

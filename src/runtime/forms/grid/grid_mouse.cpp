@@ -35,6 +35,12 @@ void GridView::move_to(Cell cell) {
   sync();
 }
 
+void GridView::move_to_middle(std::int64_t row) {
+  move_to({row, sheet.current().column});
+  const auto top = std::clamp<std::int64_t>(row - whole_rows_ / 2, 0, verticalScrollBar()->maximum());
+  verticalScrollBar()->setValue(static_cast<int>(top));
+}
+
 void GridView::follow_records() {
   if (!host.run) return;
   const Cell before = sheet.current();

@@ -63,7 +63,8 @@ GridView::GridView(QWidget* parent)
   });
   editor_->when_key = [this](QKeyEvent& event) { return editor_key(event); };
   editor_->when_released = [this](QMouseEvent& event) { released(event.button()); };
-  connect(editor_, &QLineEdit::textEdited, this, [this](const QString& text) {
+  // What an assistive tool puts in is no edit to Qt. The grid's own changes block the signal.
+  connect(editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
     sheet.type(text.toStdString());
     verticalHeader()->viewport()->update();
   });

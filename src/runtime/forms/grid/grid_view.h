@@ -45,6 +45,8 @@ class GridView : public QTableView {
   void follow_records();
   /// Makes a cell the current one and shows it. Faults: those of Sheet::go_to().
   void move_to(Cell cell);
+  /// Makes a row the current one and shows it in the middle, as far as there are rows around it.
+  void move_to_middle(std::int64_t row);
   /// The program around it is gone.
   void cut_loose();
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "runtime/fault.h"
-#include "runtime/forms/grid/cell_text.h"
 
 namespace runtime::forms::grid {
 
@@ -56,11 +55,8 @@ Value Sheet::value(Cell cell) {
 
 Value Sheet::value_with_edit(int column) {
   if (!modified() || column != current_.column) return value({current_.row, column});
-  try {
-    return typed_value(edit_->text, kind(column), heading(column));
-  } catch (const Refusal&) {
-    return edit_->text;
-  }
+  if (refusal()) return edit_->text;
+  return typed_value(edit_->text, kind(column), heading(column));
 }
 
 void Sheet::go_to(Cell cell) {
@@ -88,6 +84,16 @@ void Sheet::set_modified(bool modified) {
   if (!edit_) return;
   edit_->modified = modified;
   if (!modified) edit_->text = shown_text(value(current_));
+}
+
+std::optional<Refusal> Sheet::refusal() const {
+  if (!modified()) return std::nullopt;
+  try {
+    typed_value(edit_->text, kind(current_.column), heading(current_.column));
+  } catch (const Refusal& refusal) {
+    return refusal;
+  }
+  return std::nullopt;
 }
 
 void Sheet::keep_edit() {

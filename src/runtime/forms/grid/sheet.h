@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "runtime/engine/recordset.h"
+#include "runtime/forms/grid/cell_text.h"
 #include "runtime/forms/grid/row_window.h"
 #include "runtime/value.h"
 
@@ -62,6 +63,8 @@ class Sheet {
   /// What is now typed in the open cell.
   void type(const std::string& text);
   void set_modified(bool modified);
+  /// Why what is typed in the open cell can't be stored; nothing when it can.
+  std::optional<Refusal> refusal() const;
 
   /// Moves an open edit into the row's buffer and closes it. Throws Refusal.
   void keep_edit();
