@@ -36,9 +36,11 @@ std::optional<std::string> ModelRun::verdict() {
   const Verdict verdict = read_verdict(program_.desktop.files, verdict_file_);
   std::string remark;
   if (is_older_than_the_start()) {
-    remark = file_ + " has left no verdict: " + verdict_file_ + " is older than its start. ";
+    remark = file_ + " has left no verdict: " + verdict_file_ + " is older than its start.";
   }
-  if (!verdict.has_number) remark += verdict_file_ + " begins with no number, which counts as success.";
+  if (!verdict.has_number)
+    remark +=
+        (remark.empty() ? "" : " ") + verdict_file_ + " begins with no number, which counts as success.";
   if (!remark.empty()) program_.desktop.remark(remark);
   return verdict.error;
 }

@@ -9,8 +9,8 @@
 namespace inputs {
 
 /// Made before a launcher lists the grid's columns and plans its files. When the load of the grid ends in a
-/// fault, the columns are listed as before, so that the next press does not list them twice, and a chooser that
-/// was loaded for the plan goes again: alone it would save what an earlier entry has left.
+/// fault, the columns are listed as before, so that the next press does not list them twice, and a chooser
+/// that was loaded for the plan goes again: alone it would save what an earlier entry has left.
 class GridOpening {
  public:
   explicit GridOpening(forms::Program& program);

@@ -10,8 +10,8 @@ using forms::Program;
 /// Maximizes the main window and goes to the application directory. No database is opened.
 void MDIForm_Load(Program& program);
 
-/// Ends the program at once: no form is unloaded, nothing that they hold is stored. What earlier handlers wrote
-/// and could not make durable is tried once more, and a failure told.
+/// Ends the program at once: no form is unloaded, nothing that they hold is stored. What earlier handlers
+/// wrote and could not make durable is tried once more, and a failure told.
 void Mnu_exit_Click(Program& program);
 
 /// The close box of the main window: the forms unload in the order in which they were loaded, so what they

@@ -39,7 +39,7 @@ TEST_F(CommuterRemark, tells_which_program_left_no_verdict_while_the_old_one_dec
     make_ready();
     run();
     EXPECT_EQ(verdict(), completed);
-    EXPECT_EQ(status_line(), std::string(file) + " has left no verdict: err.txt is older than its start. ");
+    EXPECT_EQ(status_line(), std::string(file) + " has left no verdict: err.txt is older than its start.");
     analyst.choose("spec_timdist");
     EXPECT_EQ(status_line(), "");
     analyst.click("Command3");
