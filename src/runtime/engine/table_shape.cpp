@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "runtime/engine/connection.h"
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/fault.h"
 #include "runtime/text/numbers.h"
 
@@ -42,7 +41,7 @@ std::optional<double> number_of(const Value& value) {
   if (const auto* const whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
   if (const auto* const single = std::get_if<float>(&value)) return *single;
   if (const auto* const number = std::get_if<double>(&value)) return *number;
-  return dialect::number_in(std::get<std::string>(value));
+  return text::number_in(std::get<std::string>(value));
 }
 
 // A text that is a number is one, as a box posts it. Null is no business of this function.

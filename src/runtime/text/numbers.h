@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,10 @@ namespace runtime::text {
 /// digits with or without a point, and an exponent. Whatever follows is passed over, so that "1_2_" is 1,
 /// "12 34" is 12 and "Information" is 0. A number too small to hold is 0; too large a one is Fault 6.
 double val(std::string_view text);
+
+/// The number that a text is, blanks around it aside; nothing for any other text, "inf" and "nan" included.
+/// A number beyond the range of double precision is none either.
+std::optional<double> number_in(std::string_view text);
 
 /// `number` as a 16-bit whole number, a half going to the even one. Outside -32768 to 32767: Fault 6.
 std::int16_t whole_16(double number);

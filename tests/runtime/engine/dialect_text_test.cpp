@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <string>
 
 #include "runtime/engine/dialect/like.h"
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/engine/dialect/quoting.h"
 
 namespace runtime::engine::dialect {
@@ -44,15 +43,6 @@ TEST(Like, takes_no_time_to_speak_of_for_many_stars) {
   std::string pattern;
   for (int i = 0; i < 30; ++i) pattern += "*a";
   EXPECT_FALSE(is_like(std::string(2000, 'a'), pattern + "b"));
-}
-
-TEST(NumberIn, reads_a_text_that_is_a_number_and_no_other) {
-  EXPECT_EQ(number_in("12"), 12);
-  EXPECT_EQ(number_in(" -.5 "), -0.5);
-  EXPECT_EQ(number_in("+1e3"), 1000);
-  for (const char* text :
-       {"", " ", "-", ".", "1 2", "1x", "inf", "nan", "Information", "0x10", "+-1", "1e400", "1,5"})
-    EXPECT_EQ(number_in(text), std::nullopt) << text;
 }
 
 TEST(Quoting, doubles_what_would_end_it) {

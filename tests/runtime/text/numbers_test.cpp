@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <limits>
+#include <optional>
 
 #include "comma_locale.h"
 #include "faults.h"
@@ -71,6 +72,15 @@ TEST(Val, is_zero_for_what_is_too_small_to_hold) {
   EXPECT_EQ(val("0." + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(val("-." + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(val("0e999"), 0);
+}
+
+TEST(NumberIn, reads_a_text_that_is_a_number_and_no_other) {
+  EXPECT_EQ(number_in("12"), 12);
+  EXPECT_EQ(number_in(" -.5 "), -0.5);
+  EXPECT_EQ(number_in("+1e3"), 1000);
+  for (const char* text :
+       {"", " ", "-", ".", "1 2", "1x", "inf", "nan", "Information", "0x10", "+-1", "1e400", "1,5"})
+    EXPECT_EQ(number_in(text), std::nullopt) << text;
 }
 
 TEST(Whole16, rounds_a_half_to_the_even_number) {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <limits>
 
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/fault.h"
 #include "runtime/text/numbers.h"
 
@@ -60,7 +59,7 @@ double as_number(const Value& value) {
   if (const auto* const whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
   if (const auto* const single = std::get_if<float>(&value)) return *single;
   if (const auto* const number = std::get_if<double>(&value)) return *number;
-  const auto number = number_in(std::get<std::string>(value));
+  const auto number = text::number_in(std::get<std::string>(value));
   if (!number) throw Fault(13);
   return *number;
 }

@@ -7,8 +7,8 @@
 #include <limits>
 #include <utility>
 
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/files/plain_file.h"
+#include "runtime/text/numbers.h"
 
 namespace runtime::engine {
 
@@ -151,7 +151,7 @@ TextCell TextReader::cell_of(const TextColumn& column, std::string_view field) c
     const auto read = std::from_chars(field.data(), field.data() + field.size(), whole);
     if (read.ec == std::errc{} && read.ptr == field.data() + field.size()) return std::int64_t{whole};
   }
-  const auto number = dialect::number_in(field);
+  const auto number = text::number_in(field);
   if (!number || (column.kind == FieldKind::Single && !std::isfinite(static_cast<float>(*number))))
     fault("'" + std::string(field) + "' is no number for '" + column.name + "'");
   if (column.kind != FieldKind::Whole) return *number;

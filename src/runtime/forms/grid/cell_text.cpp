@@ -6,7 +6,6 @@
 #include <limits>
 #include <system_error>
 
-#include "runtime/engine/dialect/number_text.h"
 #include "runtime/text/numbers.h"
 
 namespace runtime::forms::grid {
@@ -41,7 +40,7 @@ bool is_beyond_every_range(const std::string& text) {
 }
 
 double number_of(const std::string& text, const std::string& column) {
-  const auto number = engine::dialect::number_in(text);
+  const auto number = text::number_in(text);
   if (!number && text.find(',') != std::string::npos) {
     refuse(text, column, "it is not a number. Write a point for the decimals, and no thousands separator.");
   }
