@@ -1,6 +1,7 @@
 #include "database/text_table.h"
 
 #include "database/catalogue.h"
+#include "runtime/fault.h"
 #include "runtime/files/numbers_in_use.h"
 #include "runtime/text/numbers.h"
 #include "runtime/text/print_line.h"
@@ -81,6 +82,11 @@ void write_pair_skeleton(std::ostream& stream, std::int64_t zones, const runtime
 void write_zone_skeleton(std::ostream& stream, std::int64_t zones) {
   write(stream, "\r\n");
   for (std::int64_t zone = 1; zone <= zones; ++zone) runtime::text::print_line(stream, {zone});
+}
+
+void drop_if_there(runtime::engine::Database& database, const std::string& table) {
+  constexpr int not_there = 3078;
+  runtime::ignoring_fault(not_there, [&] { database.Execute("DROP TABLE " + table); });
 }
 
 runtime::engine::TableDef csvtable_definition(const runtime::engine::Database& database,

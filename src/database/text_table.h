@@ -34,6 +34,10 @@ void write_pair_skeleton(std::ostream& stream, std::int64_t zones, const runtime
 /// An empty line, then a line for each zone.
 void write_zone_skeleton(std::ostream& stream, std::int64_t zones);
 
+/// Only that it is not there may pass: another program's lock would be waited for again at each statement
+/// that follows, and then an old table be met.
+void drop_if_there(runtime::engine::Database& database, const std::string& table);
+
 /// The link to "trips.csv" in the application directory.
 runtime::engine::TableDef csvtable_definition(const runtime::engine::Database& database,
                                               const std::string& app_path);

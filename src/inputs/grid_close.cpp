@@ -1,6 +1,7 @@
 // The save button of the grid. In the commuter entry it comes twice: the first time it keeps the population
 // and makes room for the employment.
 #include "database/catalogue.h"
+#include "database/text_table.h"
 #include "inputs/chosen.h"
 #include "inputs/frmdatagrid.h"
 #include "inputs/grid_mode.h"
@@ -49,8 +50,7 @@ void end_employment_pass(Program& program, Database& db) {
 }
 
 void keep_population(Program& program, Database& db) {
-  constexpr int not_there = 3078;
-  runtime::ignoring_fault(not_there, [&] { db.Execute("DROP TABLE POPULATION"); });
+  database::drop_if_there(db, "POPULATION");
   db.Execute("CREATE TABLE population (Zone integer" + column_list(program) + ")");
   db.Execute("insert into population select * from sosec ");
   auto occupations = db.OpenRecordset(chosen_occupations);
@@ -68,14 +68,21 @@ class PopulationPass {
     program_.desktop.workspace.BeginTrans();
   }
 
-  void done() const { program_.desktop.workspace.CommitTrans(); }
+  /// The other pass stands, and is durable.
+  void done() {
+    program_.desktop.workspace.CommitTrans();
+    is_guarded_ = false;
+    program_.desktop.make_durable();
+  }
 
   void come_back() const {
     auto& form = program_.frmDataGrid;
-    form.unload_without_storing();
-    program_.desktop.workspace.Rollback();
     form.EmploymentPass = false;
     form.SelectedFields = picked_;
+    form.unload_without_storing();
+    auto& workspace = program_.desktop.workspace;
+    if (is_guarded_) runtime::ignoring_faults([&] { workspace.Rollback(); });
+    runtime::ignoring_faults([&] { workspace.take_back(); });
     form.keeps_staging_table = true;
     runtime::ignoring_faults([&] {
       form.Load();
@@ -83,20 +90,23 @@ class PopulationPass {
       form->Label3.set_caption(form.SelectedFieldsText);
     });
     form.keeps_staging_table = false;
+    // Alone it would save the population as the employment, too.
+    if (!form.loaded()) program_.frmdirget.unload_without_storing();
   }
 
  private:
   Program& program_;
   const decltype(Program::frmDataGrid.SelectedFields) picked_;
   const std::string caption_;
+  bool is_guarded_ = true;
 };
 
 void end_population_pass(Program& program, Database& db) {
   keep_population(program, db);
   // Behind this stretch the typed values stand nowhere else.
-  program.desktop.workspace.make_durable();
+  program.desktop.make_durable();
   auto& form = program.frmDataGrid;
-  const PopulationPass population(program);
+  PopulationPass population(program);
   forget_picked_names(program);  // not how many: a fill that meets the empty names ends in a fault
   db.Close();
   form.EmploymentPass = true;
@@ -104,11 +114,11 @@ void end_population_pass(Program& program, Database& db) {
     form->DataLu.close_database();
     form.Unload();
     form.Load();
+    population.done();
   } catch (...) {
     population.come_back();
     throw;
   }
-  population.done();
 }
 
 void choose_directory(Program& program) {

@@ -12,7 +12,6 @@
 
 namespace inputs::frmdatagrid {
 
-using runtime::ignoring_fault;
 using runtime::engine::Database;
 using runtime::engine::TableDef;
 
@@ -63,12 +62,9 @@ Database open_project(Program& program) {
                                                 program.desktop.database_name);
 }
 
-/// Only that one is not there may pass: another program's lock would be waited for again at each statement
-/// that follows, and then an old table be met.
 void drop_old_tables(Database& db) {
-  constexpr int not_there = 3078;
-  ignoring_fault(not_there, [&] { db.Execute("DROP TABLE sosec"); });
-  ignoring_fault(not_there, [&] { db.Execute("DROP TABLE csvtable"); });
+  database::drop_if_there(db, "sosec");
+  database::drop_if_there(db, "csvtable");
 }
 
 /// Sets the captions of the mode. Returns its statement, an empty one without a mode.

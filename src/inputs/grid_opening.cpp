@@ -5,12 +5,17 @@
 namespace inputs {
 
 GridOpening::GridOpening(forms::Program& program)
-    : program_(program), columns_(column_list(program)), chooser_was_loaded_(program.frmdirget.loaded()) {}
+    : program_(program),
+      columns_(column_list(program)),
+      chooser_was_loaded_(program.frmdirget.loaded()),
+      grid_was_loaded_(program.frmDataGrid.loaded()) {}
 
-void GridOpening::load_grid(const std::function<void()>& load) const {
+void GridOpening::go(const std::function<void()>& steps) const {
   try {
-    load();
+    steps();
+    program_.desktop.make_durable();
   } catch (...) {
+    if (!grid_was_loaded_) program_.frmDataGrid.unload_without_storing();
     set_column_list(program_, columns_);
     if (!chooser_was_loaded_) program_.frmdirget.unload_without_storing();
     throw;

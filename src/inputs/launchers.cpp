@@ -134,9 +134,12 @@ void Times_Click(Program& program) {
     program.frmdirget->List1.set_list(static_cast<int>(i), times_columns[i].planned_file);
     names[i] = times_columns[i].name;
   }
-  write_skeleton(program, skeleton_of_times, names, zones);
-  set_mode_word(program, mode::timdist);
-  opening.load_grid([&] { program.frmDataGrid.Show(); });
+  copy_template(program, skeleton_of_times);
+  opening.go([&] {
+    write_skeleton(program, skeleton_of_times, names, zones);
+    set_mode_word(program, mode::timdist);
+    program.frmDataGrid.Show();
+  });
 }
 
 }  // namespace inputs::mdiform1

@@ -1,5 +1,7 @@
 // Form2 as the choice of the industries or occupations that the grid gets a column for.
 #include <array>
+#include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -89,8 +91,14 @@ std::vector<std::string_view> write_rows(Program& program, const Market& market,
   return chosen;
 }
 
-/// All that stands before the grid. False when the analyst was told why it goes no further.
-bool prepare_grid(Program& program, const Market& market) {
+/// What the grid is to be made for.
+struct Order {
+  std::int16_t zones;
+  std::vector<std::string_view> chosen;
+};
+
+/// All that stands before the skeleton. Nothing when the analyst was told why it goes no further.
+std::optional<Order> prepare_grid(Program& program, const Market& market) {
   shell::GoToAppDirectory(program);
   shell::BeginFileTransaction(program);
   Database db = program.desktop.workspace.OpenDatabase(program.desktop.database_name);
@@ -99,32 +107,38 @@ bool prepare_grid(Program& program, const Market& market) {
   if (zones == 0) {
     program.desktop.MsgBox(no_zones_message);
     if (market.takes_back_without_zones) shell::RollbackFileTransaction(program);
-    return false;
+    return std::nullopt;
   }
   db.Execute("DELETE * from " + std::string(market.table));
   shell::CommitFileTransaction(program);
-  const std::vector<std::string_view> chosen = write_rows(program, market, rows);
+  Order order{zones, write_rows(program, market, rows)};
   rows.Close();
-  if (chosen.empty()) {
+  if (order.chosen.empty()) {
     program.desktop.MsgBox(market.nothing_chosen);
-    return false;
+    return std::nullopt;
   }
-  write_skeleton(program, market.skeleton, chosen, zones);
-  return true;
+  copy_template(program, market.skeleton);
+  return order;
+}
+
+void open_grid(Program& program, const Market& market, const std::function<void()>& show) {
+  const GridOpening opening(program);
+  const auto order = prepare_grid(program, market);
+  if (!order) return;
+  opening.go([&] {
+    write_skeleton(program, market.skeleton, order->chosen, order->zones);
+    show();
+  });
 }
 
 }  // namespace
 
 void Command1_Click(Program& program) {
-  const GridOpening opening(program);
-  if (!prepare_grid(program, commercial_market)) return;
-  opening.load_grid([&] { program.frmDataGrid.Show(); });
+  open_grid(program, commercial_market, [&] { program.frmDataGrid.Show(); });
 }
 
 void Command3_Click(Program& program) {
-  const GridOpening opening(program);
-  if (!prepare_grid(program, commuter_market)) return;
-  opening.load_grid([&] {
+  open_grid(program, commuter_market, [&] {
     // Nothing on the form takes the font on: what this does is to load the form, so that the caption below
     // replaces the one of the load.
     program.frmDataGrid.set_font_size(24);

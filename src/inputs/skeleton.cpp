@@ -30,11 +30,14 @@ const Skeleton skeleton_of_industries{database::read_pairs_template, 3, "DOUBLE"
 const Skeleton skeleton_of_occupations{database::read_zones_template, 2, "DOUBLE", "Writing the zones",
                                        write_zones};
 
+void copy_template(forms::Program& program, const Skeleton& skeleton) {
+  program.desktop.files.FileCopy(skeleton.template_file, database::live_description);
+}
+
 void write_skeleton(forms::Program& program, const Skeleton& skeleton,
                     std::span<const std::string_view> columns, std::int16_t zones) {
   Files& files = program.desktop.files;
   const runtime::files::NumbersInUse numbers(files, rows_file, description_file);
-  files.FileCopy(skeleton.template_file, database::live_description);
   files.open_for_append(description_file, database::live_description);
   int number = skeleton.first_column;
   for (const std::string_view column : columns) {

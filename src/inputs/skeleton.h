@@ -26,8 +26,11 @@ extern const Skeleton skeleton_of_occupations;  // a row for each zone
 
 inline constexpr const char* no_zones_message = "Please enter the number of zones!";
 
-/// Makes "schema.ini" and "trips.csv" in the current directory, and puts the columns behind those that the
-/// column list has. After a fault no file stays open.
+/// Makes "schema.ini", without the columns that are not in every row, in the current directory.
+void copy_template(forms::Program& program, const Skeleton& skeleton);
+
+/// Puts the columns into "schema.ini" and behind those that the column list has, and makes "trips.csv". After
+/// a fault no file stays open.
 void write_skeleton(forms::Program& program, const Skeleton& skeleton,
                     std::span<const std::string_view> columns, std::int16_t zones);
 

@@ -15,7 +15,12 @@ void Mnu_exit_Click(Program& program) {
 
 void close_box(Program& program) {
   auto& loaded = program.desktop.loaded_forms;
-  while (!loaded.empty()) loaded.front()->unload_for_good();
+  // All are stored before the first one goes: a grid that stays needs the forms that its launcher left.
+  for (auto* form : loaded) {
+    if (form->design().stores_at_unload) form->store();
+  }
+  program.desktop.make_durable();
+  while (!loaded.empty()) loaded.front()->unload_without_storing();
   program.desktop.end_program(0);
 }
 

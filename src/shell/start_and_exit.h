@@ -15,8 +15,8 @@ void MDIForm_Load(Program& program);
 void Mnu_exit_Click(Program& program);
 
 /// The close box of the main window: the forms unload in the order in which they were loaded, so what they
-/// hold is stored, and the program ends. A fault of the storing, up to its being durable, keeps the program,
-/// and the form with what it holds.
+/// hold is stored, and the program ends. A fault of the storing, up to its being durable, keeps the program
+/// and every form with what it holds.
 void close_box(Program& program);
 
 }  // namespace shell::mdiform1

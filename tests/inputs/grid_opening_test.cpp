@@ -2,6 +2,7 @@
 #include <sqlite3.h>
 
 #include "grid_page.h"
+#include "small_disk.h"
 
 namespace {
 
@@ -25,6 +26,8 @@ class GridOpening : public testing_aids::GridPage {
     type_into_cell(0, 1, "40");
     type_into_cell(1, 2, "7");
   }
+
+  int waits = 0;
 
  private:
   std::string template_bytes_;
@@ -71,6 +74,67 @@ TEST_F(GridOpening, that_fails_leaves_a_chooser_that_was_there_before) {
   analyst.will_press("OK");
   analyst.choose("Times");
   EXPECT_EQ(loaded_forms(), "Form2*- Frmdirget*");
+}
+
+TEST_F(GridOpening, whose_table_does_not_become_durable_leaves_neither_grid_nor_chooser) {
+  sqlite3* reader = nullptr;
+  sqlite3_open(app.file("zelmor.mdb").string().c_str(), &reader);
+  set_zones(2);
+  program.desktop.workspace.waiting = [&](bool is_waiting) {
+    if (is_waiting) ++waits;
+  };
+  // Reads from the time on at which the skeleton is made, so that only the end of the load meets it.
+  as_handler([this] { program.form2.hide(); });
+  sqlite3_exec(reader, "BEGIN; SELECT count(*) FROM zones", nullptr, nullptr, nullptr);
+  analyst.will_press("OK");
+  analyst.choose("Times");
+  sqlite3_close(reader);
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3260':"));
+  EXPECT_GT(waits, 0);
+  EXPECT_EQ(loaded_forms(), "Form2");
+  EXPECT_EQ(program.form2->Text1(0).text(), "");
+}
+
+#ifndef _WIN32
+TEST_F(GridOpening, whose_skeleton_finds_no_room_leaves_no_chooser_and_lists_no_column) {
+  set_zones(30);
+  {
+    const testing_aids::SmallDisk disk(200);
+    analyst.will_press("OK");
+    analyst.choose("Times");
+  }
+  EXPECT_EQ(analyst.last_box().name, "RuntimeError");
+  EXPECT_EQ(loaded_forms(), "Form2");
+  EXPECT_EQ(program.form2->Text1(0).text(), "");
+  open_times(2);
+  EXPECT_TRUE(program.frmDataGrid.visible());
+}
+#endif
+
+TEST_F(GridOpening, of_employment_that_does_not_become_durable_comes_back_to_the_population_pass) {
+  type_population();
+  sqlite3* reader = nullptr;
+  sqlite3_open(app.file("zelmor.mdb").string().c_str(), &reader);
+  // Reads as soon as the population is durable: the grid of the other pass is what it bars.
+  program.frmDataGrid.set_events([&] {
+    auto events = program.frmDataGrid.events();
+    for (auto& row : events) {
+      if (row.event != runtime::forms::Event::Load) continue;
+      row.handler = [reader, load = row.handler](int index) {
+        sqlite3_exec(reader, "BEGIN; SELECT count(*) FROM zones", nullptr, nullptr, nullptr);
+        load(index);
+      };
+    }
+    return events;
+  }());
+  analyst.will_press("OK");
+  press_on_grid("cmdClose");
+  sqlite3_close(reader);
+  EXPECT_THAT(last_box(), StartsWith("Run-time error '3260':"));
+  EXPECT_FALSE(program.frmDataGrid.EmploymentPass);
+  EXPECT_EQ(program.frmDataGrid->cmdClose.caption(), "&Save Population by Occupation and Continue");
+  EXPECT_THAT(sosec(), ElementsAre("1|40|null", "2|null|7"));
+  EXPECT_THAT(table("population ORDER BY Zone"), ElementsAre("1|40|null", "2|null|7"));
 }
 
 TEST_F(GridOpening, of_employment_that_fails_leaves_the_population_pass_as_it_was) {

@@ -188,9 +188,9 @@ TEST_F(KilledEntry, in_a_fill_can_be_made_again) {
 TEST_F(KilledEntry, in_the_save_leaves_the_former_file_and_can_be_made_again) {
   constexpr std::size_t zones = 700;
   app.put_file("distance.txt", "former");
-  kill_in(zones, "saving", "distance.txt.part");
+  kill_in(zones, "saving", "distance.txt.quelar_part");
   constexpr std::size_t shortest_line = 9;
-  EXPECT_LT(size_of("distance.txt.part"), zones * zones * shortest_line);
+  EXPECT_LT(size_of("distance.txt.quelar_part"), zones * zones * shortest_line);
   EXPECT_EQ(app.bytes("distance.txt"), "former");
   expect_that_an_entry_can_be_made();
 }

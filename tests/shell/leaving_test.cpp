@@ -50,6 +50,14 @@ class Leaving : public testing_aids::ProgramTest {
   }
 
   std::vector<std::string> distance() { return app.rows("SELECT distance FROM timdist"); }
+  void type_a_distance(const std::string& text) {
+    auto& grid = program.frmDataGrid->grdDataGrid;
+    as_handler([&] {
+      grid.set_current_column(2);
+      grid.set_edit_active(true);
+    });
+    analyst.type("CellEditor", text);
+  }
   void hold(const std::string& path) {
     program.form3.Show();
     program.form3->Text1(5).set_text(path);
@@ -86,26 +94,64 @@ TEST_F(Leaving, by_the_close_box_on_a_full_disk_stays_with_what_the_form_holds) 
   EXPECT_THAT(distance(), ElementsAre(long_path));
 }
 
-TEST_F(Leaving, by_the_close_box_while_another_program_reads_keeps_the_edit_of_a_grid) {
+TEST_F(Leaving, by_the_close_box_while_another_program_reads_keeps_the_grid_with_its_edit_and_its_entry) {
   app.sql("UPDATE zones SET numzones = 2");
   analyst.choose("Times");
-  auto& grid = program.frmDataGrid->grdDataGrid;
-  as_handler([&] {
-    grid.set_current_column(2);
-    grid.set_edit_active(true);
-  });
-  auto* editor = grid.widget()->findChild<QLineEdit*>(QStringLiteral("CellEditor"));
-  analyst.type("CellEditor", "7.25");
-  ASSERT_EQ(editor->text(), "7.25");
+  type_a_distance("7.25");
   {
     const Reader reader(app.file("zelmor.mdb"));
     analyst.will_press("OK");
     EXPECT_EQ(press_close_box(), goes_on);
     EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '3260':")));
     EXPECT_TRUE(program.frmDataGrid.loaded());
-    EXPECT_EQ(editor->text(), "7.25");
+    EXPECT_EQ(std::get<double>(program.frmDataGrid->grdDataGrid.column_value(2)), 7.25);
+  }
+  // What the launcher has left for the save is still there.
+  EXPECT_EQ(program.form2->Text1(2).text(), "timdist");
+  EXPECT_EQ(program.frmdirget->List1.list(0), "distance.txt");
+  EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(app.rows("SELECT distance FROM sosec"), ElementsAre("7.25", "null", "null", "null"));
+}
+
+TEST_F(Leaving, by_the_close_box_with_a_word_in_the_open_cell_keeps_the_entry_that_the_grid_serves) {
+  app.sql("UPDATE zones SET numzones = 2");
+  analyst.choose("Times");
+  type_a_distance("much");
+  analyst.will_press("OK");
+  EXPECT_EQ(press_close_box(), goes_on);
+  EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '3421':")));
+  EXPECT_EQ(program.form2->Text1(2).text(), "timdist");
+  EXPECT_TRUE(program.frmDataGrid->grdDataGrid.edit_active());
+}
+
+TEST_F(Leaving, by_the_close_box_waits_for_what_an_earlier_handler_could_not_make_durable) {
+  {
+    const Reader reader(app.file("zelmor.mdb"));
+    analyst.will_press("OK");
+    as_handler([this] {
+      program.desktop.workspace.OpenDatabase("zelmor.mdb").Execute("update timdist set distance = 'kept'");
+    });
+    analyst.will_press("OK");
+    EXPECT_EQ(press_close_box(), goes_on);
   }
   EXPECT_EQ(press_close_box(), 0);
+  EXPECT_THAT(distance(), ElementsAre("kept"));
+}
+
+TEST_F(Leaving, a_row_that_could_not_be_made_durable_is_edited_again) {
+  app.sql("UPDATE zones SET numzones = 2");
+  analyst.choose("Times");
+  auto& grid = program.frmDataGrid->grdDataGrid;
+  type_a_distance("7.25");
+  {
+    const testing_aids::SmallDisk disk(0);
+    analyst.will_press("OK");
+    as_handler([&] { grid.set_current_row(2); });
+    EXPECT_THAT(analyst.texts(), ElementsAre(StartsWith("Run-time error '")));
+  }
+  EXPECT_EQ(grid.current_row(), 0);
+  EXPECT_EQ(std::get<double>(grid.column_value(2)), 7.25);
+  as_handler([&] { grid.set_current_row(2); });
   EXPECT_THAT(app.rows("SELECT distance FROM sosec"), ElementsAre("7.25", "null", "null", "null"));
 }
 #endif

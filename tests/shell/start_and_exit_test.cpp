@@ -163,7 +163,7 @@ TEST_F(CloseBox, a_fault_of_the_storing_keeps_the_program_and_the_form) {
   EXPECT_THAT(distance(), ElementsAre("stored.txt"));
 }
 
-TEST_F(CloseBox, unloads_the_forms_in_the_order_in_which_they_were_loaded) {
+TEST_F(CloseBox, that_is_refused_by_one_form_leaves_every_form_where_it_was) {
   refuse_paths();
   program.form3.set_events({});
   program.form1.hide();
@@ -172,7 +172,7 @@ TEST_F(CloseBox, unloads_the_forms_in_the_order_in_which_they_were_loaded) {
   program.form3->Text1(5).set_text("stored.txt");
   analyst.will_press("OK");
   EXPECT_EQ(press_close_box(), goes_on);
-  EXPECT_THAT(program.desktop.loaded_forms, ElementsAre(&program.form3, &program.form2));
+  EXPECT_THAT(program.desktop.loaded_forms, ElementsAre(&program.form1, &program.form3, &program.form2));
 }
 
 }  // namespace

@@ -86,15 +86,19 @@ void Workspace::Rollback() {
 int Workspace::levels() const {
   return transactions_->levels();
 }
+void Workspace::handler_begins() {
+  if (const auto connection = open_.lock()) connection->lock_wait().begin_anew();
+}
 void Workspace::handler_ended() {
   struct Anew {
-    std::shared_ptr<Connection> connection;
-    ~Anew() {
-      if (connection) connection->lock_wait().begin_anew();
-    }
+    Workspace& workspace;
+    ~Anew() { workspace.handler_begins(); }
   };
-  const Anew next_handler{open_.lock()};
+  const Anew next_handler{*this};
   transactions_->handler_ended();
+}
+void Workspace::take_back() {
+  transactions_->drop();
 }
 void Workspace::make_durable() {
   transactions_->make_durable();

@@ -59,11 +59,14 @@ class Workspace {
   /// How many levels stand, old ones included.
   int levels() const;
 
-  /// The outermost handler ended: makes durable all that it wrote; its open levels become old ones.
+  /// The outermost handler begins: it has the whole time for the locks of other programs.
+  void handler_begins();
+  /// It ended: makes durable all that it wrote; its open levels become old ones.
   void handler_ended();
-  /// An external program starts: makes durable what was written, unless a level of this handler holds
-  /// some of it.
+  /// Makes durable what was written so far, unless a level of this handler holds some of it.
   void make_durable();
+  /// Takes back all that is not durable, whatever levels stand.
+  void take_back();
 
   /// Whether `file` is the database file or its journal, while that is open.
   bool holds(const std::filesystem::path& file) const;

@@ -52,14 +52,14 @@ void move_to_another_volume(const fs::path& source, const fs::path& target) {
 void replace_on_another_volume(const fs::path& source, const fs::path& target) {
   fs::path beside = target;
   beside += unfinished_ending;
-  copy_bytes(source, beside);
   std::error_code error;
   try {
+    copy_bytes(source, beside);
     flush_to_disk(beside);
-    fs::rename(beside, target);
-  } catch (const std::exception&) {
+    if (move_over(beside, target) != Moved::yes) throw Fault(75);
+  } catch (const Fault& fault) {
     fs::remove(beside, error);
-    throw Fault(75, text_of(target));
+    throw Fault(fault.number, text_of(target));
   }
   fs::remove(source, error);
 }
@@ -129,14 +129,16 @@ void Files::Replace(std::string_view from, std::string_view to) const {
   if (is_held(source)) throw Fault(55, std::string(from));
   if (is_any_held(older) || is_held(target)) throw Fault(55, std::string(to));
   if (std::any_of(older.begin(), older.end(), is_a_directory)) throw Fault(58, std::string(to));
-  if (!std::all_of(older.begin(), older.end(), is_plain_file)) throw Fault(75, std::string(to));
+  if (!std::all_of(older.begin(), older.end(), can_give_way)) throw Fault(75, std::string(to));
   flush_to_disk(source);
-  std::error_code error;
-  fs::rename(source, target, error);
-  if (error == std::errc::cross_device_link) {
-    replace_on_another_volume(source, target);
-  } else if (error) {
-    throw Fault(75, std::string(to));
+  switch (move_over(source, target)) {
+    case Moved::yes:
+      break;
+    case Moved::other_volume:
+      replace_on_another_volume(source, target);
+      break;
+    case Moved::no:
+      throw Fault(75, std::string(to));
   }
   remove_namesakes(older, target);
   flush_names(target.parent_path());

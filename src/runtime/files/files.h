@@ -15,7 +15,7 @@
 namespace runtime::files {
 
 /// Stands behind the name of a file that is on its way to its place.
-inline constexpr std::string_view unfinished_ending = ".part";
+inline constexpr std::string_view unfinished_ending = ".quelar_part";
 
 /// The file operations of one program and the numbered files that it holds open. Names are UTF-8, are
 /// separated by "/" or "\" and are found without regard to case (see `resolve`); a file that is made bears

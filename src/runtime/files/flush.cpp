@@ -9,6 +9,8 @@
 #include <cerrno>
 #endif
 
+#include <system_error>
+
 #include "runtime/fault.h"
 #include "runtime/files/path_names.h"
 
@@ -30,6 +32,13 @@ void flush_to_disk(const fs::path& file) {
 
 void flush_names(const fs::path&) {}  // the system keeps its directories by itself
 
+// The library's own rename would copy to another volume.
+Moved move_over(const fs::path& file, const fs::path& other) {
+  if (MoveFileExW(file.c_str(), other.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+    return Moved::yes;
+  return GetLastError() == ERROR_NOT_SAME_DEVICE ? Moved::other_volume : Moved::no;
+}
+
 #else
 
 void flush_to_disk(const fs::path& file) {
@@ -49,6 +58,13 @@ void flush_names(const fs::path& directory) {
   if (handle < 0) return;
   ::fsync(handle);
   ::close(handle);
+}
+
+Moved move_over(const fs::path& file, const fs::path& other) {
+  std::error_code error;
+  fs::rename(file, other, error);
+  if (!error) return Moved::yes;
+  return error == std::errc::cross_device_link ? Moved::other_volume : Moved::no;
 }
 
 #endif

@@ -54,7 +54,10 @@ void Files::open(int number, std::string_view name, Mode mode) {
 
 void Files::expect_place_for_output(std::string_view name) const {
   expect_no_bar(resolve(name), name, Mode::Output);
-  for (const fs::path& namesake : namesakes(name)) expect_no_bar(namesake, name, Mode::Output);
+  for (const fs::path& namesake : namesakes(name)) {
+    expect_no_bar(namesake, name, Mode::Output);
+    if (!can_give_way(namesake)) throw Fault(75, std::string(name));
+  }
   if (!has_directory(exactly_named(name))) throw Fault(76, std::string(name));
 }
 

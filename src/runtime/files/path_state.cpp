@@ -21,6 +21,11 @@ bool is_pipe(const fs::path& path) {
   return fs::is_fifo(path, error);
 }
 
+bool can_give_way(const fs::path& path) {
+  std::error_code error;
+  return is_plain_file(path) || (fs::is_symlink(path, error) && !fs::exists(path, error));
+}
+
 bool is_a_directory(const fs::path& path) {
   std::error_code error;
   return fs::is_directory(path, error);

@@ -15,6 +15,8 @@ bool is_there(const std::filesystem::path& path);
 
 bool is_plain_file(const std::filesystem::path& path);
 bool is_pipe(const std::filesystem::path& path);
+/// Whether a new file may take the place of what bears this name: a plain file, or a link that leads nowhere.
+bool can_give_way(const std::filesystem::path& path);
 bool is_a_directory(const std::filesystem::path& path);
 bool is_same_file(const std::filesystem::path& one, const std::filesystem::path& other);
 

@@ -26,6 +26,8 @@ Replacement::Replacement(Files& files, std::string place)
       number_(files.free_number()) {
   in_the_name_of_the_place([this] {
     files_.expect_place_for_output(place_);
+    const auto beside = exactly_named(beside_);
+    if (std::filesystem::is_symlink(beside)) throw Fault(75);  // what it leads to is another's
     files_.open_for_output(number_, beside_);
   });
 }

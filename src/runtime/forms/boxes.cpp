@@ -37,15 +37,22 @@ QString with_line_feeds(const std::string& prompt) {
   return text.replace(u'\r', u'\n');
 }
 
-/// A text from outside may be of any length, and its box's buttons must stay on the screen.
-void set_text(QMessageBox& box, QString text) {
+/// Where a text can be cut, at a place or one before it: never within a character.
+qsizetype cut_before(const QString& text, qsizetype place) {
+  return text[place - 1].isHighSurrogate() ? place - 1 : place;
+}
+
+/// A text from outside may be of any length, and its box's buttons must stay on the screen. A question is
+/// shown with its end, where it is asked.
+void set_text(QMessageBox& box, QString text, bool asks) {
   constexpr qsizetype most_characters = 1000;
+  constexpr qsizetype last_characters = 300;
   text.replace(QChar(QChar::LineSeparator), QLatin1Char(' '));
   text.replace(QChar(QChar::ParagraphSeparator), QLatin1Char(' '));
   if (text.size() <= most_characters) return box.setText(text);
-  const bool would_part_a_pair = text[most_characters - 1].isHighSurrogate();
-  const qsizetype end = would_part_a_pair ? most_characters - 1 : most_characters;
-  box.setText(text.left(end));
+  const qsizetype end = cut_before(text, asks ? most_characters - last_characters : most_characters);
+  const qsizetype last = cut_before(text, text.size() - last_characters);
+  box.setText(text.left(end) + (asks ? QLatin1String("\n...\n") + text.mid(last) : QString()));
   box.setDetailedText(text.mid(end));
 }
 
@@ -69,7 +76,7 @@ int exec(QMessageBox& box, const char* name, const QString& text, int style, con
   box.setObjectName(QString::fromLatin1(name));
   box.setWindowTitle(qt(title));
   box.setTextFormat(Qt::PlainText);  // a path with "<" in it is no markup
-  set_text(box, text);
+  set_text(box, text, (style & buttons_mask) == yes_no);
   box.setIcon(icon_of(style));
   return box.exec();
 }

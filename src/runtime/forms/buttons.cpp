@@ -28,6 +28,21 @@ class PushButton : public QPushButton {
   }
 };
 
+/// One that is pressed by a call, as assistive tools do, keeps its state when its press is not heard.
+template <typename Button>
+class HeardButton : public Button {
+ public:
+  HeardButton(const Desktop& desktop, QWidget* parent) : Button(parent), desktop_(desktop) {}
+
+ protected:
+  void nextCheckState() override {
+    if (desktop_.hears_a_person()) Button::nextCheckState();
+  }
+
+ private:
+  const Desktop& desktop_;
+};
+
 QAbstractButton* button_of(const Control& control) {
   return qobject_cast<QAbstractButton*>(control.widget());
 }
@@ -52,7 +67,7 @@ void CommandButton::show_caption(const std::string& caption) {
 }
 
 QWidget* OptionButton::make_widget(QWidget* parent) {
-  auto* button = new QRadioButton(parent);
+  auto* button = new HeardButton<QRadioButton>(desktop(), parent);
   QObject::connect(button, &QRadioButton::clicked, button, [this] { fire_from_person(Event::Click); });
   return button;
 }
@@ -79,7 +94,7 @@ void OptionButton::set_value(bool selected) {
 }
 
 QWidget* CheckBox::make_widget(QWidget* parent) {
-  auto* button = new QCheckBox(parent);
+  auto* button = new HeardButton<QCheckBox>(desktop(), parent);
   QObject::connect(button, &QCheckBox::clicked, button, [this] { fire_from_person(Event::Click); });
   return button;
 }

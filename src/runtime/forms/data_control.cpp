@@ -66,23 +66,12 @@ void DataControl::store_changed() {
 
 void DataControl::writes_ended(bool kept) {
   const auto stored = std::exchange(stored_, {});
-  if (kept || !recordset_.is_set()) return;
-  for (Bound* box : stored) box->changed = true;
-  ignoring_faults([this] { recordset_.ReadAgain(); });
-  for (DBGrid* grid : grids_) grid->Refresh();
-}
-
-std::function<void()> DataControl::edit_keeper() const {
-  std::vector<Bound*> changed;
-  for (const BoundField& row : boxes_) {
-    if (row.box->changed) changed.push_back(row.box);
+  if (!recordset_.is_set()) return;
+  if (!kept) {
+    for (Bound* box : stored) box->changed = true;
+    ignoring_faults([this] { recordset_.ReadAgain(); });
   }
-  std::vector<std::function<void()>> edits;
-  for (DBGrid* grid : grids_) edits.push_back(grid->edit_keeper());
-  return [changed, edits] {
-    for (Bound* box : changed) box->changed = true;
-    for (const auto& put_back : edits) put_back();
-  };
+  for (DBGrid* grid : grids_) grid->writes_ended(kept);
 }
 
 void DataControl::Refresh() {

@@ -1,7 +1,6 @@
 // The data control: a recordset on one table, and the boxes that show and store the fields of its record.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,8 +38,6 @@ class DataControl : public Control {
   /// Stores the edits of its grids, then the boxes that were changed, and only their fields. Without a record
   /// there is nowhere to store.
   void post();
-  /// Counts as not stored yet, once more, what did so when it was called: for a storing that did not last.
-  std::function<void()> edit_keeper() const;
   /// What it stored in the handler that has ended was kept, or taken back. Then its record and grids are as
   /// the table is, and the boxes hold what they would still store.
   void writes_ended(bool kept);

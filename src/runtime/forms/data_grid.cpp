@@ -40,6 +40,7 @@ QWidget* DBGrid::make_widget(QWidget* parent) {
   view_ = new GridView(parent);
   view_->setAutoFillBackground(true);  // its foot as well: it may lie over other controls
   view_->host.run = [this](const std::function<void()>& action) { run(action); };
+  view_->host.hears = [this] { return desktop().hears_a_person(); };
   view_->host.workspace = &desktop().workspace;
   view_->host.mouse_up = [this](int button) { fire_from_person(Event::MouseUp, button); };
   view_->host.clicked = [this](int column) { fire_from_person(Event::Click, column); };
@@ -153,11 +154,9 @@ void DBGrid::drop_edit() {
   view_->sync();
 }
 
-std::function<void()> DBGrid::edit_keeper() {
-  return [this, put_back = sheet().edit_keeper()] {
-    put_back();
-    view_->sync();
-  };
+void DBGrid::writes_ended(bool kept) {
+  sheet().writes_ended(kept);
+  if (!kept) view_->sync();
 }
 
 void DBGrid::drop_refused_text() {

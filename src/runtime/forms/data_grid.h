@@ -65,8 +65,8 @@ class DBGrid : public Control {
   void post();
   /// Drops both.
   void drop_edit();
-  /// Puts both back as they were when it was called; good as long as the grid shows the same records.
-  std::function<void()> edit_keeper();
+  /// What the handler has stored is durable, or was taken back and is edited again.
+  void writes_ended(bool kept);
   /// Drops the open edit when its text is one that its column can't take. The row's buffer stays.
   void drop_refused_text();
   /// The data control was given other records, or has read its own anew: shows them from the current one on.

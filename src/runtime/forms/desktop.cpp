@@ -61,7 +61,7 @@ void Desktop::run_event(const std::function<void()>& handler) {
   // Painted while long work is under way, a window may change its size, or be pressed by an assistive tool:
   // nothing of the program runs inside the work.
   if (resting()) return;
-  ++depth_;
+  if (++depth_ == 1) workspace.handler_begins();
   const auto fault = fault_of(handler);
   std::optional<Fault> at_end;
   if (depth_ == 1) at_end = fault_of([this] { end_of_handler(); });
@@ -74,12 +74,20 @@ void Desktop::run_event(const std::function<void()>& handler) {
 }
 
 void Desktop::run_person_event(const std::function<void()>& handler) {
-  if (resting() || QApplication::activeModalWidget() != nullptr) return;
-  if (depth_ == 0) remark({});
+  if (!hears_a_person()) return;
+  if (depth_ == 0) show_remark({});
   run_event(handler);
 }
 
+bool Desktop::hears_a_person() const {
+  return !resting() && QApplication::activeModalWidget() == nullptr;
+}
+
 void Desktop::remark(const std::string& words) {
+  show_remark(remark_.empty() ? words : remark_ + " " + words);
+}
+
+void Desktop::show_remark(const std::string& words) {
   if (status_line(main_window) == remark_) set_status_line(main_window, words);
   remark_ = words;
 }
@@ -90,11 +98,19 @@ void Desktop::end_program(int exit_code) {
 
 void Desktop::end_of_handler() {
   err.clear();
+  settle([this] { workspace.handler_ended(); });
+}
+
+void Desktop::make_durable() {
+  settle([this] { workspace.make_durable(); });
+}
+
+void Desktop::settle(const std::function<void()>& commit) {
   const auto tell_forms = [this](bool kept) {
     for (FormBase* form : loaded_forms) form->writes_ended(kept);
   };
   try {
-    workspace.handler_ended();
+    commit();
   } catch (const Fault&) {
     tell_forms(false);
     throw;
@@ -103,6 +119,7 @@ void Desktop::end_of_handler() {
 }
 
 void Desktop::tell_of_wait(bool is_waiting) {
+  if (depth_ == 0) return;  // a window that is being painted must not be painted by that
   if (!is_waiting) return set_status_line(main_window, words_before_wait_);
   words_before_wait_ = status_line(main_window);
   set_status_line(main_window, "Waiting for another program that uses the project database");
@@ -124,7 +141,7 @@ void Desktop::end_with_report(const Fault& fault) {
 }
 
 int Desktop::run_program(const std::string& program) {
-  workspace.make_durable();
+  make_durable();
   const Rest rest(*this);
   return process::run_and_wait(program, files::native(app_path), [] { QCoreApplication::processEvents(); });
 }

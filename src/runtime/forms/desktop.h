@@ -76,7 +76,15 @@ class Desktop {
   /// Whether work is under way inside which no handler runs.
   bool resting() const { return rests_ > 0; }
 
-  /// Says in the status line why a handler ended in silence, until the next one that a person sets off.
+  /// Whether what a person does is taken: false while resting() and while a box waits for its answer.
+  bool hears_a_person() const;
+
+  /// Makes durable what the handler under way has written so far, unless a level of it guards that. After a
+  /// fault the forms hold once more what they stored.
+  void make_durable();
+
+  /// Says in the status line what a handler does not tell by a box, until the next one that a person sets
+  /// off; a second remark stands behind the first.
   void remark(const std::string& words);
 
   /// Ends the program when the outermost handler has ended and what it wrote is durable, or its failure told.
@@ -101,6 +109,8 @@ class Desktop {
  private:
   void report(const Fault& fault);
   void end_of_handler();
+  void settle(const std::function<void()>& commit);
+  void show_remark(const std::string& words);
   void tell_of_wait(bool is_waiting);
 
   int depth_ = 0;

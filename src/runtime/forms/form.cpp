@@ -178,22 +178,6 @@ void FormBase::Unload() {
   remove();
 }
 
-void FormBase::unload_for_good() {
-  if (!loaded()) return;
-  std::vector<std::function<void()>> edits;
-  for (Control* control : controls_->all()) {
-    if (auto* data = dynamic_cast<DataControl*>(control)) edits.push_back(data->edit_keeper());
-  }
-  try {
-    if (design_.stores_at_unload) store();
-    desktop_.workspace.make_durable();
-  } catch (const Fault&) {
-    for (const auto& put_back : edits) put_back();
-    throw;
-  }
-  remove();
-}
-
 void FormBase::unload_without_storing() {
   if (loaded()) remove();
 }

@@ -53,8 +53,6 @@ class FormBase {
   void Unload();
   /// Stores what the bound boxes hold.
   void store();
-  /// As Unload(), but the form goes only when what it stored is durable; else it holds it as before.
-  void unload_for_good();
   /// The writes of the handler that has ended were kept, or taken back: then it shows what is stored.
   void writes_ended(bool kept);
   /// Removes the form and drops what its boxes hold.

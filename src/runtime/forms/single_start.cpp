@@ -27,7 +27,9 @@ std::string SingleStart::words() const {
     if (!host.isEmpty()) holder += " on " + host.toStdString();
   }
   return "Quelar is already at work in this directory:\n" + directory_ + "\n\nIt is held by " + holder +
-         ". End that one first; two at a time would take each other's data away.";
+         ". End that one first; two at a time would take each other's data away.\n\nWhen it runs no more, or "
+         "runs "
+         "in another directory of which this one is a copy, delete the file quelar.lock here.";
 }
 
 }  // namespace runtime::forms

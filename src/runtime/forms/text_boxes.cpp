@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "runtime/forms/desktop.h"
 #include "runtime/forms/twips.h"
 #include "runtime/text/numbers.h"
 
@@ -25,9 +26,11 @@ class MaskedLineEdit : public QLineEdit {
     setInputMask(pattern + QString(beyond, u'0') + QStringLiteral(";_"));
     setText(number);
     setCursorPosition(0);
+    heard = number;
   }
 
   QString pattern;  // of the mask, without its prompt
+  QString heard;    // the number that is shown by right
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
@@ -62,7 +65,7 @@ QWidget* TextBox::make_widget(QWidget* parent) {
 
 void TextBox::changed_by_a_person() {
   // A box that takes no key must not take what comes by another way.
-  if (locked() || !is_enabled()) return show(shown_);
+  if (locked() || !is_enabled() || !desktop().hears_a_person()) return show(shown_);
   shown_ = text();
   changed = true;
   fire_from_person(Event::Change);
@@ -120,7 +123,12 @@ void TextBox::show_caption(const std::string& caption) {
 
 QWidget* MaskEdBox::make_widget(QWidget* parent) {
   auto* edit = new MaskedLineEdit(parent);
-  QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
+  QObject::connect(edit, &QLineEdit::textChanged, edit, [this, edit] {
+    if (!desktop().hears_a_person()) {
+      const QSignalBlocker blocker(edit);
+      return edit->show_number(edit->heard);
+    }
+    edit->heard = edit->text();
     changed = true;
     fire_from_person(Event::Change);
   });

@@ -107,6 +107,26 @@ TEST_F(Replacements, let_files_of_another_case_give_way) {
 }
 
 #ifndef _WIN32
+TEST_F(Replacements, refuse_a_pipe_and_take_the_place_of_a_link_that_leads_nowhere) {
+  ASSERT_EQ(mkfifo("pipe.txt", 0600), 0);
+  EXPECT_EQ(fault_of([this] { Replacement(files, "pipe.txt"); }), 75);
+  EXPECT_EQ(fault_of([this] { files.Replace("times.txt", "pipe.txt"); }), 75);
+  std::filesystem::create_symlink("nowhere", "link.txt");
+  Replacement file(files, "link.txt");
+  file.out() << "whole";
+  file.finish();
+  file.put_in_place();
+  EXPECT_FALSE(std::filesystem::is_symlink("link.txt"));
+  EXPECT_EQ(bytes_of("link.txt"), "whole");
+}
+
+TEST_F(Replacements, do_not_write_through_a_link_beside_their_place) {
+  put("other.txt", "another's");
+  std::filesystem::create_symlink("other.txt", "times.txt.quelar_part");
+  EXPECT_EQ(fault_of([this] { Replacement(files, "times.txt"); }), 75);
+  EXPECT_EQ(bytes_of("other.txt"), "another's");
+}
+
 TEST_F(Replacements, tell_of_a_full_disk_when_they_are_finished) {
   const testing_aids::SmallDisk disk(10);
   Replacement file(files, "times.txt");
@@ -149,7 +169,7 @@ TEST_F(ReplacementsElsewhere, come_from_another_volume_whole) {
   files.Replace("times.txt", there("times.txt"));
   EXPECT_EQ(bytes_of(there("times.txt")), "former");
   EXPECT_EQ(names(), "");
-  EXPECT_FALSE(std::filesystem::exists(there("times.txt.part")));
+  EXPECT_FALSE(std::filesystem::exists(there("times.txt.quelar_part")));
 }
 
 TEST_F(ReplacementsElsewhere, that_run_out_of_room_leave_both_files) {
@@ -157,11 +177,11 @@ TEST_F(ReplacementsElsewhere, that_run_out_of_room_leave_both_files) {
   put(there("times.txt"), "former");
   {
     const testing_aids::SmallDisk disk(100);
-    EXPECT_NE(fault_of([this] { files.Replace("times.txt", there("times.txt")); }), 0);
+    EXPECT_EQ(fault_of([this] { files.Replace("times.txt", there("times.txt")); }), 57);
   }
   EXPECT_EQ(bytes_of(there("times.txt")), "former");
   EXPECT_EQ(bytes_of("times.txt").size(), 5000U);
-  EXPECT_FALSE(std::filesystem::exists(there("times.txt.part")));
+  EXPECT_FALSE(std::filesystem::exists(there("times.txt.quelar_part")));
 }
 #endif
 

@@ -2,6 +2,7 @@
 // on his behalf, tries: a button or a menu item that is pressed by a call is no input event.
 #include <QAbstractButton>
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 
@@ -42,7 +43,12 @@ class Resting : public testing_aids::SmallFormTest {
   }
   QAction& item(const char* name) { return *menued.findChild<QAction*>(QString::fromLatin1(name)); }
 
-  SmallForm form{desktop, {row("Command1", 0, Kind::CommandButton, "Go"), row("Text1", 0, Kind::TextBox)}};
+  SmallForm form{
+      desktop,
+      {row("Command1", 0, Kind::CommandButton, "Go"), row("Text1", 0, Kind::TextBox),
+       row("Check1", rf::no_index, Kind::CheckBox, "Tick"),
+       row("MaskEdBox1", rf::no_index, Kind::MaskEdBox, "####"), row("Option1", 0, Kind::OptionButton, "One"),
+       row("Option1", 1, Kind::OptionButton, "Two")}};
   QMdiArea* area = desktop.mdi_area;
   rf::MainWindow menued{desktop, "Menu", {}, menu_of_two};
   int chosen = 0;
@@ -76,6 +82,29 @@ TEST_F(Resting, no_handler_begins_while_a_box_waits_for_its_answer) {
   EXPECT_EQ(form.heard.times, 1);
 }
 
+TEST_F(Resting, what_is_put_into_a_control_while_a_box_waits_is_put_back) {
+  as_handler([this] { form->Option1(0).set_value(true); });
+  const auto change_all = [this] {
+    for (const char* name : {"Check1", "Option1(1)"})
+      qobject_cast<QAbstractButton*>(analyst.find(name))->click();
+    for (const char* name : {"Text1(0)", "MaskEdBox1"})
+      qobject_cast<QLineEdit*>(analyst.find(name))->setText(QStringLiteral("7"));
+  };
+  analyst.when_box_shows = [&](const analyst::Box&) { change_all(); };
+  analyst.will_press("OK");
+  as_handler([this] { desktop.MsgBox("Words"); });
+  EXPECT_EQ(form->Check1.value(), 0);
+  EXPECT_TRUE(form->Option1(0).value());
+  EXPECT_EQ(form->Text1(0).text(), "");
+  EXPECT_EQ(form->MaskEdBox1.text(), "____");
+  EXPECT_FALSE(form->Text1(0).changed || form->MaskEdBox1.changed);
+  change_all();
+  EXPECT_EQ(form->Check1.value(), 1);
+  EXPECT_TRUE(form->Option1(1).value());
+  EXPECT_EQ(form->Text1(0).text(), "7");
+  EXPECT_EQ(form->MaskEdBox1.text(), "7___");
+}
+
 TEST_F(Resting, an_item_below_a_disabled_menu_can_not_be_chosen) {
   menued.set_item_enabled("Top", false);
   press_all();
@@ -103,9 +132,11 @@ TEST_F(Resting, a_form_lays_itself_out_for_the_size_that_it_got_while_a_program_
 TEST_F(Resting, a_remark_stands_until_a_person_begins_something_else) {
   as_handler([this] { desktop.remark("The verdict is an old one."); });
   EXPECT_EQ(analyst.text_of("StatusLine"), "The verdict is an old one.");
+  as_handler([this] { desktop.remark("And it is empty."); });
+  EXPECT_EQ(analyst.text_of("StatusLine"), "The verdict is an old one. And it is empty.");
   window.resize(700, 500);
   QCoreApplication::processEvents();
-  EXPECT_EQ(analyst.text_of("StatusLine"), "The verdict is an old one.");
+  EXPECT_EQ(analyst.text_of("StatusLine"), "The verdict is an old one. And it is empty.");
   press_all();
   EXPECT_EQ(analyst.text_of("StatusLine"), "");
 }

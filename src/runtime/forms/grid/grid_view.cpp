@@ -65,6 +65,7 @@ GridView::GridView(QWidget* parent)
   editor_->when_released = [this](QMouseEvent& event) { released(event.button()); };
   // What an assistive tool puts in is no edit to Qt. The grid's own changes block the signal.
   connect(editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (host.hears && !host.hears()) return sync();
     sheet.type(text.toStdString());
     verticalHeader()->viewport()->update();
   });

@@ -19,6 +19,8 @@ class GridModel;
 struct GridHost {
   /// Runs what a person set off, through the edge at which faults are reported; a refused text is told.
   std::function<void(const std::function<void()>&)> run;
+  /// Whether what a person does is taken now.
+  std::function<bool()> hears;
   engine::Workspace* workspace = nullptr;
   std::function<void(int column)> head_clicked;
   std::function<void(int button)> mouse_up;

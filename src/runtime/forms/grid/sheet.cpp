@@ -1,6 +1,7 @@
 #include "runtime/forms/grid/sheet.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/fault.h"
 
@@ -10,6 +11,7 @@ Sheet::Sheet() : window_([this](std::int64_t first, int count) { return records_
 
 void Sheet::records_changed() {
   drop_edit();
+  posted_.reset();
   window_.forget();
   const bool has_records = records_ != nullptr && records_->is_set();
   rows_ = has_records ? records_->RecordCount() : 0;
@@ -25,6 +27,7 @@ void Sheet::records_changed() {
 
 void Sheet::forget_records() {
   drop_edit();
+  posted_.reset();
   window_.forget();
   records_ = nullptr;
   rows_ = 0;
@@ -120,7 +123,7 @@ void Sheet::post() {
     changes_ = changes;
     throw;
   }
-  changes_.clear();
+  posted_ = Posted{current_, std::exchange(changes_, {})};
   window_.forget();
 }
 
@@ -132,13 +135,13 @@ void Sheet::step_back() {
   }
 }
 
-std::function<void()> Sheet::edit_keeper() {
-  return [this, edit = edit_, changes = changes_, current = current_] {
-    edit_ = edit;
-    changes_ = changes;
-    current_ = current;
-    window_.forget();
-  };
+void Sheet::writes_ended(bool kept) {
+  const auto posted = std::exchange(posted_, std::nullopt);
+  window_.forget();
+  if (kept || !posted || edit_ || row_changed() || posted->at.row >= rows_) return;
+  changes_ = posted->changes;
+  current_ = posted->at;
+  ignoring_faults([this] { records_->set_AbsolutePosition(current_.row); });
 }
 
 void Sheet::drop_edit() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -73,8 +72,9 @@ class Sheet {
   /// Closes the cell as it was; where none is open drops the row's buffer.
   void step_back();
   void drop_edit();
-  /// Puts the edit back that was under way when it was called.
-  std::function<void()> edit_keeper();
+  /// What the handler has posted is durable, or was taken back: then the row that was posted last is edited
+  /// again, unless another edit is under way.
+  void writes_ended(bool kept);
 
   /// Code has moved the records or written to them: reads anew, and stands on their current row unless a
   /// row is being edited.
@@ -98,6 +98,11 @@ class Sheet {
   Cell current_;
   std::optional<Edit> edit_;
   std::map<int, Value> changes_;  // of the current row, by column
+  struct Posted {
+    Cell at;
+    std::map<int, Value> changes;
+  };
+  std::optional<Posted> posted_;  // by the handler under way
 };
 
 }  // namespace runtime::forms::grid
