@@ -67,6 +67,13 @@ TEST_F(TimeAndDistancePage, without_zones_shows_the_box_and_leaves_the_menus_off
   EXPECT_TRUE(analyst.item_enabled("Mnu_exit"));
 }
 
+TEST_F(TimeAndDistancePage, comes_to_the_application_directory_before_it_opens_the_database) {
+  std::filesystem::current_path(app.file("results"));
+  analyst.choose("spec_timdist");
+  EXPECT_TRUE(analyst.sees("Command8"));
+  EXPECT_EQ(program.desktop.files.current_directory(), app.path());
+}
+
 TEST_F(TimeAndDistancePage, takes_a_number_of_zones_that_is_null_for_none) {
   app.sql("update zones set numzones = null");
   analyst.will_press("OK");

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -23,6 +24,20 @@ namespace {
 
 QString qt(const std::string& text) {
   return QString::fromStdString(text);
+}
+
+/// The keys that a person presses; QTest itself knows those of plain letters alone.
+void type_keys(QWidget& widget, const std::string& text) {
+  for (const QChar letter : qt(text)) {
+    if (letter.unicode() < 128) {
+      QTest::keyClick(&widget, letter.toLatin1());
+      continue;
+    }
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, Qt::Key_unknown, Qt::NoModifier, QString(letter));
+      QCoreApplication::sendEvent(&widget, &event);
+    }
+  }
 }
 
 std::string caption_of(const QAbstractButton& button) {
@@ -66,7 +81,7 @@ void enter_file(QDialog& dialog, const std::string& path) {
   QApplication::setActiveWindow(&dialog);
   edit->setFocus();
   edit->selectAll();
-  QTest::keyClicks(edit, qt(path));
+  type_keys(*edit, path);
   auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
   for (auto* button : buttons->buttons()) {
     if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole) {
@@ -118,7 +133,7 @@ void Analyst::will_enter(const std::string& text) {
       return dialog.reject();
     }
     edit->selectAll();
-    QTest::keyClicks(edit, qt(text));
+    type_keys(*edit, text);
     press(dialog, "OK");
   });
 }
@@ -237,7 +252,7 @@ void Analyst::click(const std::string& control) {
 void Analyst::type(const std::string& control, const std::string& text) {
   if (!can_use(control)) return complain(control + " can't be typed into");
   find(control)->setFocus();
-  QTest::keyClicks(find(control), qt(text));
+  type_keys(*find(control), text);
 }
 
 std::vector<std::string> Analyst::texts() const {

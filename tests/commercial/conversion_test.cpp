@@ -162,6 +162,40 @@ TEST_F(Conversion, comes_to_the_application_directory_before_it_opens_the_databa
   EXPECT_THAT(app.names_in("results"), IsEmpty());
 }
 
+TEST_F(Conversion, its_program_finds_the_picks_in_the_database_file) {
+  program_does("copy ../zelmor.mdb seen.mdb\nwrite Err.txt 0\\r\\n\n");
+  open_truck_page();
+  pick("Command4(5)", "sample/imp_time.txt");
+  press_and_answer({"OK"});
+  app.put_file("zelmor.mdb", app.bytes("truck/seen.mdb"));
+  EXPECT_THAT(app.rows("SELECT distance, TonsFile FROM timdist, Anfiles"),
+              ElementsAre(in_app("sample/imp_time.txt") + "|" + in_app("sample/tons.txt")));
+}
+
+TEST_F(Conversion, takes_the_first_record_of_the_paths_and_of_the_picks) {
+  app.put_file("tons.txt", "9 9 900\r\n");
+  app.sql(
+      "UPDATE Anfiles SET TonsFile = 'sample/tons.txt'; INSERT INTO Anfiles (TonsFile) VALUES ('tons.txt');"
+      "INSERT INTO timdist (distance, base_time) VALUES ('sample/districts.txt', 'sample/districts.txt')");
+  analyst.choose("mnu_tonstotrucks");
+  by_code([this] {
+    for (const int data : {0, 1}) program.form3->Data1(data).recordset().MoveNext();
+  });
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), app.bytes("sample/distance.txt"));
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "1 2 300\r\n");
+}
+
+TEST_F(Conversion, names_a_directory_with_umlauts_commas_and_blanks_as_it_is) {
+  std::filesystem::create_directory(app.file("Größe, neu"));
+  app.put_file("Größe, neu/tons.txt", "1 2 300\r\n");
+  analyst.choose("mnu_tonstotrucks");
+  pick("Command15", "Größe, neu/tons.txt");
+  press_and_answer({"OK"});
+  EXPECT_EQ(app.bytes("truck/ttc.txt"), in_app("Größe, neu") + "/\r\n 24 \r\n");
+  EXPECT_EQ(app.bytes("truck/commodity.txt"), "1 2 300\r\n");
+}
+
 TEST_F(Conversion, an_exit_code_is_told_with_the_words_turned_round) {
   program_does("exit 3\n");
   open_truck_page();

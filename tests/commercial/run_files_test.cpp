@@ -172,4 +172,63 @@ TEST_F(CommercialFiles, replace_those_of_the_same_name_whole) {
   EXPECT_FALSE(files.contains("dist.txt"));
 }
 
+TEST_F(CommercialFiles, take_the_first_record_of_the_speeds_wherever_the_form_of_the_parameters_stands) {
+  app.sql("INSERT INTO var_input VALUES (1, 2, 3, 4)");
+  make_ready();
+  analyst.click("Option4(0)");
+  by_code([this] { program.form1->Data2.recordset().MoveNext(); });
+  press_and_answer({"No"});
+  EXPECT_EQ(app.bytes("truck/base_var.txt"), " 38  .42 \r\n");
+}
+
+TEST_F(CommercialFiles, take_the_first_of_two_rows_of_an_industry) {
+  app.sql("INSERT INTO Commercial SELECT industry_number, 99, 99, 99, 99, 99, 99 FROM Commercial");
+  make_ready();
+  press_and_answer({"No"});
+  EXPECT_EQ(app.bytes("truck/sig2.txt"), " 4.62 \r\n");
+  EXPECT_EQ(app.bytes("truck/cost2.txt"), " 5469          25.04         50            1             95 \r\n");
+}
+
+TEST_F(CommercialFiles, are_those_of_the_first_record_of_the_paths) {
+  const std::string other = "'sample/districts.txt'";
+  app.sql("INSERT INTO timdist VALUES (" + other + ", " + other + ", " + other + ")");
+  make_ready();
+  by_code([this] { program.form3->Data1(1).recordset().MoveNext(); });
+  press_and_answer({"No"});
+  EXPECT_EQ(app.bytes("truck/Dist.txt"), app.bytes("sample/distance.txt"));
+  EXPECT_EQ(app.bytes("truck/imp_time.txt"), app.bytes("sample/imp_time.txt"));
+}
+
+TEST_F(CommercialFiles, name_the_output_bare_whatever_its_path_holds) {
+  for (const char* name : {"Größe, neu/aus gabe,1", "\"alt\" und neu/it's"}) {
+    make_ready();
+    program.form3.OutputFile = in_app(name) + ".txt";
+    press_and_answer({"No"});
+    EXPECT_EQ(app.bytes("truck/outpar.txt"),
+              " 24 \r\n0             0\r\nNONE\r\n" + in_app(name) + "\r\n 1 \r\n2\r\n");
+  }
+}
+
+TEST_F(CommercialFiles, of_picked_paths_with_umlauts_and_commas) {
+  std::filesystem::create_directory(app.file("Größe,neu"));
+  std::filesystem::copy_file(app.file(mining), app.file("Größe,neu/Güter,alle.txt"));
+  open_commercial_page();
+  pick("Command1(2)", "Größe,neu/Güter,alle.txt");
+  pick("Command5", "Größe,neu/aus,1.txt");
+  analyst.click("Option4(2)");
+  press_and_answer({"No"});
+  EXPECT_EQ(app.bytes("truck/outpar.txt"),
+            " 24 \r\n0             0\r\nNONE\r\n" + in_app("Größe,neu/aus,1") + "\r\n 1 \r\n2\r\n");
+  EXPECT_EQ(app.bytes("truck/trktrp2.txt"), app.bytes(mining));
+}
+
+TEST_F(CommercialFiles, are_not_made_of_a_directory) {
+  make_ready();
+  program.form3.PickPath(1) = in_app("sample");
+  press();
+  EXPECT_THAT(shown(), ::testing::IsEmpty());
+  EXPECT_EQ(app.bytes("truck/trktrp2.txt"), "(none)");
+  EXPECT_TRUE(program.form3.visible());
+}
+
 }  // namespace

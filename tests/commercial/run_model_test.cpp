@@ -89,4 +89,14 @@ TEST_F(CommercialModel, a_dot_in_a_directorys_name_cuts_the_output_there) {
   EXPECT_THAT(app.bytes("truck/outpar.txt"), ::testing::HasSubstr("\r\n" + in_app("run") + "\r\n"));
 }
 
+TEST_F(CommercialModel, finds_the_paths_of_the_page_in_the_database_file) {
+  program_does("copy ../zelmor.mdb seen.mdb\nwrite Err.txt 0\\r\\n\n");
+  make_ready();
+  by_code([this] { program.form3->Text1(6).set_text("sample/imp_time.txt"); });
+  press_and_answer({"Yes", "OK"});
+  EXPECT_EQ(shown().back(), completed);
+  app.put_file("zelmor.mdb", app.bytes("truck/seen.mdb"));
+  EXPECT_THAT(app.rows("SELECT base_time FROM timdist"), ElementsAre("sample/imp_time.txt"));
+}
+
 }  // namespace

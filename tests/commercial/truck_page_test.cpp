@@ -129,4 +129,11 @@ TEST_F(TruckPage, a_trip_pick_after_an_occupation_whose_index_has_a_box_starts_t
   EXPECT_EQ(program.form3.PickCode(1), "2");
 }
 
+TEST_F(TruckPage, comes_to_the_application_directory_before_it_opens_the_database) {
+  std::filesystem::current_path(app.file("results"));
+  analyst.choose("mnu_tonstotrucks");
+  EXPECT_TRUE(analyst.sees("Command13"));
+  EXPECT_EQ(program.desktop.files.current_directory(), app.path());
+}
+
 }  // namespace

@@ -251,6 +251,25 @@ menus: Inputs Run spec_timdist spec_comm
   EXPECT_EQ(program.form3.PickPath(1) + program.form3.PickPath(2) + program.form3.PickCode(1), "");
 }
 
+// A directory is no file, whatever names it.
+TEST_F(CommuterEnds, a_directory_counts_as_a_missing_file) {
+  make_ready_with_districts();
+  program.form3.DistrictFile = in_app("sample");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("File " + in_app("sample") + " not Found or not Specified! [OK]"));
+  by_code([this] { program.desktop.files.Close(3); });
+  analyst.click("Check1");
+  program.form3.PickPath(1) = in_app("sample");
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("File " + in_app("sample") + " not Found! [OK]"));
+  by_code([this] { program.desktop.files.Close(3); });
+  make_ready();
+  app.sql("UPDATE timdist SET distance = 'sample'");
+  by_code([this] { program.form3->Data1(1).Refresh(); });
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("file sample not found. Please respecify file.  [exclamation, OK]"));
+}
+
 TEST_F(CommuterEnds, number_3_left_open_outlives_the_page) {
   app.sql("UPDATE zones SET numdstrct = 0");
   make_ready_with_districts();

@@ -133,6 +133,23 @@ TEST_F(CommuterFaults, a_database_that_another_program_writes_to_is_no_reason_to
   other.handler_ended();
 }
 
+// Nor does one that may not be changed stop it; what can't be stored is told when the page is left.
+TEST_F(CommuterFaults, a_database_that_is_read_only_is_no_reason_to_stop) {
+  for (const char* name : {"commuter", "results"}) fs::permissions(app.file(name), fs::perms::all);
+  const testing_aids::OrdinaryUser user;
+  ASSERT_TRUE(user);
+  make_ready();
+  press_and_answer({"No"});
+  EXPECT_THAT(shown(), ElementsAre(summary_of_sales));
+  EXPECT_TRUE(model_files().contains("costpar.txt"));
+  analyst.forget_boxes();
+  analyst.will_press("OK");
+  analyst.click("Command3");
+  EXPECT_THAT(last_box(), ::testing::StartsWith("Run-time error '"));
+  EXPECT_TRUE(analyst.can_use("Command11"));
+  EXPECT_EQ(program.form3->Text5(7).text(), in_app(sales));
+}
+
 TEST_F(CommuterFaults, a_time_file_that_is_a_copy_onto_itself) {
   app.put_file("commuter/Dist.txt", "kept");
   app.sql("UPDATE timdist SET distance = 'commuter/Dist.txt'");

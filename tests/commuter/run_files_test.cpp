@@ -164,6 +164,69 @@ TEST_F(CommuterFiles, take_the_first_record_of_the_speeds_and_of_the_mode_shares
             " .25           2.38 \r\n0              .7629  .0929  .1394  .0048 \r\n");
 }
 
+TEST_F(CommuterFiles, take_the_first_record_of_the_speeds_wherever_the_form_of_the_parameters_stands) {
+  app.sql("INSERT INTO var_input VALUES (1, 2, 3, 4)");
+  make_ready();
+  by_code([this] { program.form1->Data2.recordset().MoveNext(); });
+  make_files();
+  EXPECT_EQ(app.bytes("commuter/base_var.txt"), " 38            .42 \r\n");
+}
+
+TEST_F(CommuterFiles, take_the_first_of_two_rows_of_an_occupation) {
+  app.sql("INSERT INTO commuter (\"index\", sigma, wage) VALUES (7, 99, 99)");
+  make_ready();
+  make_files();
+  EXPECT_EQ(app.bytes("commuter/sig7.txt"), " 13.05 \r\n");
+  EXPECT_EQ(app.bytes("commuter/wage7.txt"), " 125.2 \r\n");
+}
+
+TEST_F(CommuterFiles, are_those_of_the_first_record_of_the_paths_though_the_present_one_is_looked_for) {
+  const std::string other = "'sample/districts.txt'";
+  app.sql("INSERT INTO timdist VALUES (" + other + ", " + other + ", " + other + ")");
+  make_ready();
+  by_code([this] { program.form3->Data1(1).recordset().MoveNext(); });
+  std::filesystem::rename(app.file("sample/districts.txt"), app.file("sample/away.txt"));
+  press_and_answer({"OK"});
+  EXPECT_THAT(shown(), ElementsAre("file sample/districts.txt not found. Please respecify file.  "
+                                   "[exclamation, OK]"));
+  std::filesystem::rename(app.file("sample/away.txt"), app.file("sample/districts.txt"));
+  by_code([this] { program.mdiform1.spec_timdist.set_enabled(true); });
+  analyst.choose("spec_comm");
+  by_code([this] { program.form3->Data1(1).recordset().MoveNext(); });
+  make_files();
+  EXPECT_EQ(model_files().at("Dist.txt"), "= sample/distance.txt");
+  EXPECT_EQ(model_files().at("base_time.txt"), "= sample/base_time.txt");
+  EXPECT_EQ(model_files().at("imp_time.txt"), "= sample/imp_time.txt");
+}
+
+TEST_F(CommuterFiles, keep_the_picks_in_the_first_record_alone) {
+  app.sql("INSERT INTO Anfiles (Salesfiles) VALUES ('second')");
+  make_ready();
+  make_files();
+  analyst.click("Command3");
+  EXPECT_THAT(app.rows("SELECT Salesfiles FROM Anfiles"), ElementsAre(in_app(sales), "second"));
+}
+
+TEST_F(CommuterFiles, name_the_output_bare_whatever_its_path_holds) {
+  make_ready();
+  for (const char* name : {"Größe, neu/aus gabe,1", "\"alt\" und neu/it's", "a\\b"}) {
+    EXPECT_EQ(output_base_of(in_app(name) + ".txt"), in_app(name));
+  }
+}
+
+TEST_F(CommuterFiles, of_picked_paths_with_umlauts_commas_and_blanks) {
+  std::filesystem::create_directory(app.file("Größe, neu"));
+  std::filesystem::copy_file(app.file(sales), app.file("Größe, neu/Käufer, alle.txt"));
+  open_commuter_page();
+  pick("Command10(7)", "Größe, neu/Käufer, alle.txt");
+  pick("Command12", "Größe, neu/aus gabe,1.txt");
+  make_files();
+  EXPECT_THAT(shown(), ElementsAre(summary_of_sales));
+  EXPECT_EQ(app.bytes("commuter/outpar.txt"),
+            in_app("Größe, neu/aus gabe,1") + "\r\n 24 \r\n0             0\r\n 1 \r\n7\r\n");
+  EXPECT_EQ(model_files().at("popemp7.txt"), std::string("= ") + sales);
+}
+
 TEST_F(CommuterFiles, keep_the_word_for_a_parameter_that_was_left_out) {
   app.sql("UPDATE commuter SET wage = NULL; UPDATE var_input SET BaseHighwayShare = NULL");
   make_ready();

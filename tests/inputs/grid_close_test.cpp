@@ -1,4 +1,7 @@
 // The save button of the grid, up to the choice of a directory.
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
 #include "grid_page.h"
 #include "inputs/frmdatagrid.h"
 
@@ -211,6 +214,33 @@ TEST_F(GridClose, then_quit_in_the_chooser_writes_nothing_and_keeps_the_table) {
   EXPECT_THAT(files_in("study"), IsEmpty());
   EXPECT_EQ(loaded_forms(), "Form2*-");
   EXPECT_THAT(sosec(), ElementsAre("1|6", "2|6"));
+}
+
+TEST_F(GridClose, gives_the_chooser_the_focus) {
+  open_trips(1, {1});
+  QApplication::setActiveWindow(&program.mdiform1.window());
+  press_on_grid("cmdClose");
+  const QMdiSubWindow* chooser = program.desktop.mdi_area->activeSubWindow();
+  ASSERT_TRUE(chooser->isAncestorOf(program.frmdirget.surface()));
+  ASSERT_TRUE(chooser->isAncestorOf(QApplication::focusWidget()));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_TRUE(program.frmdirget.surface()->isAncestorOf(QApplication::focusWidget()));
+}
+
+// The number entry shares its form with the word that tells what the grid serves, and takes it along.
+TEST_F(GridClose, after_a_number_entry_that_was_left_leads_to_a_save_that_writes_nothing) {
+  open_times(1);
+  type_into_cell(0, 2, "7.5");
+  analyst.choose("Zones");
+  analyst.will_press("Yes");
+  press(program.form2, "Command6");
+  EXPECT_EQ(program.form2->Text1(2).text(), "");
+  press_on_grid("cmdClose");
+  save_into("study");
+  EXPECT_THAT(app.names_in("study"), IsEmpty());
+  EXPECT_FALSE(program.frmdirget.loaded());
+  EXPECT_TRUE(analyst.item_enabled("Inputs"));
+  EXPECT_THAT(sosec(), ElementsAre("1|1|7.5|null|null"));
 }
 
 }  // namespace

@@ -1,10 +1,8 @@
 // The end of the program when what it has written can't be made durable.
-#include <sqlite3.h>
-
-#include <QApplication>
 #include <QLineEdit>
-#include <QTimer>
 
+#include "event_loop.h"
+#include "other_program.h"
 #include "program_test.h"
 #include "small_disk.h"
 
@@ -12,39 +10,19 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
-
-constexpr int goes_on = 42;
+using testing_aids::goes_on;
+using testing_aids::in_event_loop;
 
 /// Another program that reads the project database, and so keeps it from being changed.
-class Reader {
+class Reader : public testing_aids::OtherProgram {
  public:
-  explicit Reader(const std::filesystem::path& file) {
-    sqlite3_open(file.string().c_str(), &database_);
-    sqlite3_exec(database_, "BEGIN; SELECT count(*) FROM zones", nullptr, nullptr, nullptr);
-  }
-  ~Reader() { sqlite3_close(database_); }
-  Reader(const Reader&) = delete;
-  Reader& operator=(const Reader&) = delete;
-
- private:
-  sqlite3* database_ = nullptr;
+  explicit Reader(const std::filesystem::path& file) : OtherProgram(file, reads) {}
 };
 
 class Leaving : public testing_aids::ProgramTest {
  protected:
   Leaving() { program.desktop.workspace.lock_wait = std::chrono::milliseconds(10); }
 
-  /// The exit code with which the program's event loop ends, `goes_on` when it does not.
-  static int in_event_loop(const std::function<void()>& action) {
-    QTimer last;
-    last.setSingleShot(true);
-    QObject::connect(&last, &QTimer::timeout, [] { QCoreApplication::exit(goes_on); });
-    QTimer::singleShot(0, &last, [&] {
-      action();
-      last.start(100);
-    });
-    return QApplication::exec();
-  }
   int press_close_box() {
     return in_event_loop([this] { program.mdiform1.window().close(); });
   }

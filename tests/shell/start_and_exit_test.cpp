@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "event_loop.h"
 #include "program_test.h"
 #include "shell/module1.h"
 
@@ -12,24 +13,11 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr int goes_on = 42;
+using testing_aids::goes_on;
+using testing_aids::in_event_loop;
 
 class StartAndExit : public testing_aids::ProgramTest {
  protected:
-  /// Runs the program's event loop, does something in it, and gives its exit code; `goes_on` when the program
-  /// had no wish to end.
-  static int in_event_loop(const std::function<void()>& action) {
-    QTimer last;
-    last.setSingleShot(true);
-    QObject::connect(&last, &QTimer::timeout, [] { QCoreApplication::exit(goes_on); });
-    QTimer::singleShot(0, &last, [&] {
-      action();
-      last.start(100);  // at once it would still run in the loop's last round and change the exit code
-    });
-    return QApplication::exec();
-  }
-
   int press_close_box() {
     return in_event_loop([this] { program.mdiform1.window().close(); });
   }

@@ -167,6 +167,22 @@ TEST_F(OpenFile, by_its_bare_name_stays_where_it_is_when_the_directory_changes) 
   fs::current_path(before);
 }
 
+TEST_F(OpenFile, is_one_whether_its_name_is_bare_or_whole) {
+  const auto before = fs::current_path();
+  fs::create_directory(directory / "truck");
+  fs::create_directory_symlink(directory, directory / "linked");
+  fs::current_path(directory);
+  auto bare = workspace.OpenDatabase("zelmor.mdb");
+  bare.Execute("UPDATE Commuter set sigma = 7");  // not durable yet, so that nobody else sees it
+  fs::current_path("truck");
+  for (const fs::path& name : {file, fs::path("../zelmor.mdb"), directory / "truck/../zelmor.mdb",
+                               directory / "linked/zelmor.mdb"}) {
+    auto whole = workspace.OpenDatabase(name.string());
+    EXPECT_EQ(std::get<double>(whole.OpenRecordset("Commuter").field("sigma")), 7) << name;
+  }
+  fs::current_path(before);
+}
+
 TEST_F(OpenFile, waits_for_another_program_once_in_a_handler) {
   Workspace other;
   auto holder = other.OpenDatabase(file.string());

@@ -1,9 +1,12 @@
 #include "runtime/process/run_and_wait.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 #include <thread>
@@ -183,6 +186,46 @@ TEST_F(RunAndWait, lets_an_exception_through_once_the_program_has_ended) {
   EXPECT_THROW(run_and_wait("CC.EXE", application, [] { throw std::runtime_error("enough"); }),
                std::runtime_error);
   EXPECT_EQ(bytes_of("done.txt"), "yes");
+}
+
+// Standard output lies in a file while it lives, and a second file is open under a number of its own.
+class Handles {
+ public:
+  static constexpr int own = 9;
+
+  Handles() {
+    std::fflush(stdout);
+    put(output_, STDOUT_FILENO);
+    put(file_, own);
+  }
+  Handles(const Handles&) = delete;
+  Handles& operator=(const Handles&) = delete;
+  ~Handles() {
+    dup2(standard_, STDOUT_FILENO);
+    close(standard_);
+    close(own);
+  }
+
+ private:
+  static void put(const char* name, int number) {
+    const int opened = open(name, O_WRONLY | O_CREAT, 0600);
+    dup2(opened, number);
+    close(opened);
+  }
+
+  static constexpr const char* output_ = "output.txt";
+  static constexpr const char* file_ = "nine.txt";
+  const int standard_ = dup(STDOUT_FILENO);
+};
+
+TEST_F(RunAndWait, gives_the_program_its_own_handles) {
+  install_script(application / "CC.EXE", "#!/bin/sh\necho told\necho more >&9\n");
+  {
+    const Handles handles;
+    EXPECT_EQ(run("CC.EXE"), 0);
+  }
+  EXPECT_EQ(bytes_of("output.txt"), "told\n");
+  EXPECT_EQ(bytes_of("nine.txt"), "more\n");
 }
 
 // Whoever starts this program may have told it to ignore the ends of children, and that outlives the start.
