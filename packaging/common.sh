@@ -3,6 +3,8 @@
 run_packages=(cmake ninja-build g++ qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core)
 screen_packages=(xvfb xauth)  # a virtual screen, for the demonstration and the journeys
 test_packages=(libgtest-dev libgmock-dev python3 clang-format locales ccache)
+archive_packages=(git xz-utils binutils)
+archive_test_packages=(xdotool)  # finds the window of the unpacked program and presses its keys
 bench_packages=(libbenchmark-dev sqlite3 time)
 
 # For the compiler's cache: without the first, headers that are compiled once are never found again; without the
@@ -41,6 +43,12 @@ build() {
   rm -f "$top/configure.log"
   say "Building ($preset); the first time this takes some minutes."
   cmake --build --preset "$preset" -- --quiet ${1:+"$@"}
+}
+
+# install_release DIRECTORY: the application directory as it is delivered, anew.
+install_release() {
+  rm -rf "$1"
+  cmake --install "$top/build/release" --prefix "$1" --strip >/dev/null
 }
 
 # A path that the file picks can take: they refuse a blank, and cut a path at its first dot.
