@@ -22,6 +22,12 @@ inline void put_by_assistive_tool(QWidget& box, const std::string& text) {
   writable->replaceText(0, length, QString::fromStdString(text));
 }
 
+/// A cell makes its headings anew at each call, and nobody owns them.
+inline void give_back(const QList<QAccessibleInterface*>& headings) {
+  for (QAccessibleInterface* heading : headings)
+    QAccessible::deleteAccessibleInterface(QAccessible::registerAccessibleInterface(heading));
+}
+
 /// Everything that a tool can read of a widget: the names of it and of what it holds, and what a table tells
 /// of itself.
 inline std::vector<std::string> read_by_assistive_tool(QWidget& widget) {
@@ -38,8 +44,8 @@ inline std::vector<std::string> read_by_assistive_tool(QWidget& widget) {
       cell->rowIndex();
       cell->columnIndex();
       cell->isSelected();
-      cell->columnHeaderCells();
-      cell->rowHeaderCells();
+      give_back(cell->columnHeaderCells());
+      give_back(cell->rowHeaderCells());
     }
   };
   auto* accessible = QAccessible::queryAccessibleInterface(&widget);
