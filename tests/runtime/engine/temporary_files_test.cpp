@@ -42,10 +42,12 @@ TEST_F(TemporaryFiles, of_a_sort_lie_beside_the_database_whatever_directory_is_c
   workspace.resolve_name = [](std::string_view name) { return fs::path(name); };
   auto rows = workspace.OpenDatabase("zelmor.mdb").OpenRecordset("many");
   fs::current_path(directory / "truck");
+  const std::set<fs::path> inherited = nameless_files();  // from whoever has started the test
   std::set<fs::path> directories;
   std::set<std::string> kinds;
   workspace.progress = [&](std::int64_t, std::int64_t) {
     for (const fs::path& file : nameless_files()) {
+      if (inherited.contains(file)) continue;
       directories.insert(file.parent_path());
       kinds.insert(file.filename().string().substr(0, 7));
     }
