@@ -137,8 +137,9 @@ void Sheet::step_back() {
 
 void Sheet::writes_ended(bool kept) {
   const auto posted = std::exchange(posted_, std::nullopt);
+  if (kept) return;
   window_.forget();
-  if (kept || !posted || edit_ || row_changed() || posted->at.row >= rows_) return;
+  if (!posted || edit_ || row_changed() || posted->at.row >= rows_) return;
   changes_ = posted->changes;
   current_ = posted->at;
   ignoring_faults([this] { records_->set_AbsolutePosition(current_.row); });
